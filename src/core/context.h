@@ -4,6 +4,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -42,6 +43,18 @@ class Context {
 
   SettingsBlock settings;
 
+  // Long loops call YieldToEvents now and then, so that the interface stays
+  // alive, and stop when CancelRequested() (Ctrl+T) with "Calculation
+  // terminated by user.". The desktop installs the event pump; elsewhere it
+  // does nothing.
+  void SetEventPump(std::function<void()> pump) { pump_ = std::move(pump); }
+  void YieldToEvents() {
+    if (pump_) pump_();
+  }
+  bool CancelRequested() const { return cancel_; }
+  void RequestCancel() { cancel_ = true; }
+  void ClearCancel() { cancel_ = false; }
+
   // The module table of type T, built from this context on first use.
   template <class T>
   T& Module() {
@@ -57,6 +70,8 @@ class Context {
   Clock* clock_;
   MessageSink* sink_;
   ModuleSet modules_;
+  std::function<void()> pump_;
+  bool cancel_ = false;
 };
 
 }  // namespace mc

@@ -1,0 +1,138 @@
+// Calendar conversions from the command line.
+#include <optional>
+#include <ostream>
+
+#include "calendars/date_text.h"
+#include "calendars/gregorian.h"
+#include "cli/commands.h"
+#include "core/errors.h"
+#include "core/text_util.h"
+
+namespace mc {
+
+namespace {
+
+std::optional<CalType> CalendarOf(CliEnv& env, const std::string& code) {
+  auto type = CalTypeOfCode(code);
+  if (!type) {
+    env.err << "codex-cli: unknown calendar code " << code << " (see codex-cli calendars)\n";
+    return std::nullopt;
+  }
+  if (*type != CalType::JDA && !Calendars(env.ctx).HasRules(*type)) {
+    env.err << "codex-cli: calendar " << code << " is not available in this version\n";
+    return std::nullopt;
+  }
+  return type;
+}
+
+int ToJD(CliEnv& env, const std::string& code, const std::string& text) {
+  auto type = CalendarOf(env, code);
+  if (!type) return kExitRefused;
+  JD jd = 0;
+  if (*type == CalType::JDA) {
+    jd = CheckJDText(env.ctx, text);
+    if (jd == 0) {
+      if (Trim(text).empty()) ShowError(env.ctx, Err("Julian Day value is outside specified range."));
+      return kExitRefused;
+    }
+  } else {
+    auto date = ParseDateText(env.ctx, *type, text);
+    if (!date) return kExitRefused;
+    jd = Calendars(env.ctx).DateToJD(*type, date->day, date->month, date->year);
+  }
+  env.out << jd << '\n';
+  return kExitOk;
+}
+
+// A day number inside the calendar's supported range, else its message.
+bool InRange(CliEnv& env, CalType type, JD jd) {
+  Context& ctx = env.ctx;
+  if (jd < FirstJulianDay() || jd > LastJulianDay()) {
+    ShowError(ctx, Err("Julian Day value is outside specified range."));
+    return false;
+  }
+  if (type == CalType::JDA) return true;
+  const CalendarInfo& info = InfoOf(type);
+  if (jd < FirstJD(ctx, type)) {
+    ValidateYearText(ctx, type, std::to_string(info.firstYear - 1));
+    return false;
+  }
+  int year = Calendars(ctx).JDToDate(type, jd).year;
+  if (info.lastYear != 0 && year > info.lastYear) {
+    ValidateYearText(ctx, type, std::to_string(year));
+    return false;
+  }
+  return true;
+}
+
+int FromJD(CliEnv& env, const std::string& code, const std::string& fromText,
+           const std::optional<std::string>& toText) {
+  auto type = CalendarOf(env, code);
+  if (!type) return kExitRefused;
+  const bool range = toText.has_value();
+  long long from = 0, to = 0;
+  if (!ParseInt(fromText, from) || !ParseInt(toText.value_or(fromText), to)) {
+    ShowError(env.ctx, Err("Julian Day value is outside specified range."));
+    return kExitRefused;
+  }
+  if (!InRange(env, *type, static_cast<JD>(from)) || !InRange(env, *type, static_cast<JD>(to)))
+    return kExitRefused;
+  CalendarEngine& engine = Calendars(env.ctx);
+  std::string buffer;
+  for (long long jd = from; jd <= to; ++jd) {
+    if (range) buffer += std::to_string(jd) + '\t';
+    if (*type == CalType::JDA)
+      buffer += std::to_string(jd);
+    else
+      buffer += FormatDateText(env.ctx, *type, engine.JDToDate(*type, static_cast<JD>(jd)));
+    buffer += '\n';
+    if (buffer.size() > (1 << 16)) {
+      env.out << buffer;
+      buffer.clear();
+    }
+  }
+  env.out << buffer;
+  return kExitOk;
+}
+
+int Today(CliEnv& env) {
+  LocalDateTime now = env.ctx.Now();
+  env.out << FormatDateText(env.ctx, CalType::Greg, now.day, now.month, now.year) << '\t'
+          << GregorianToJD(now.day, now.month, now.year) << '\n';
+  return kExitOk;
+}
+
+int ListCalendars(CliEnv& env) {
+  for (int i = 0; i < kCalTypeCount; ++i) {
+    const CalendarInfo& c = InfoOf(static_cast<CalType>(i));
+    if (c.listName.empty()) continue;
+    env.out << c.code << '\t' << c.listName;
+    if (c.lastYear != 0) env.out << '\t' << c.firstYear << '-' << c.lastYear;
+    bool available = c.type == CalType::JDA || Calendars(env.ctx).HasRules(c.type);
+    env.out << (available ? "" : "\t(not available)") << '\n';
+  }
+  return kExitOk;
+}
+
+}  // namespace
+
+std::vector<CliCommand> CalendarCommands() {
+  using Args = const std::vector<std::string>&;
+  return {
+      {"to-jd", "to-jd CALTYPE TEXT", "the Julian Day of a date typed as in the date box",
+       [](CliEnv& env, Args a) { return a.size() == 2 ? ToJD(env, a[0], a[1]) : kExitUsage; }},
+      {"from-jd", "from-jd CALTYPE JD [JD2]",
+       "the date of a Julian Day; with JD2 one line \"JD<TAB>date\" for every day to JD2",
+       [](CliEnv& env, Args a) {
+         if (a.size() == 2) return FromJD(env, a[0], a[1], std::nullopt);
+         if (a.size() == 3) return FromJD(env, a[0], a[1], a[2]);
+         return kExitUsage;
+       }},
+      {"today", "today", "today's Gregorian date and Julian Day",
+       [](CliEnv& env, Args a) { return a.empty() ? Today(env) : kExitUsage; }},
+      {"calendars", "calendars", "the calendar codes with their names and years",
+       [](CliEnv& env, Args a) { return a.empty() ? ListCalendars(env) : kExitUsage; }},
+  };
+}
+
+}  // namespace mc
