@@ -30,26 +30,25 @@ constexpr std::array<CalendarInfo, kCalTypeCount> kCalendars = {{
     {C::Egy, "Egy", "Egyptian", "Egyptian", "", 755, 10753, 13, "Egyptian", true},
     {C::Eth, "Eth", "Ethiopic", "Ethiopic", " E.E.", 1, 9991, 13, "Ethiopic", true},
     {C::Fas, "Fas", "Parsi Fasli", "Parsi Fasli", "", 1276, 9367, 13, "Parsi Fasli", false},
-    {C::ParShe, "ParShe", "Parsi Shenshai", "Parsi Shenshai", "", 500, 9373, 13,
-     "Parsi Shenshai", false},
+    {C::ParShe, "ParShe", "Parsi Shenshai", "Parsi Shenshai", "", 500, 9373, 13, "Parsi Shenshai",
+     false},
     {C::PerQad, "PerQad", "Parsi Kadmi", "Parsi Qadmi", "", 500, 9373, 13, "Parsi Kadmi", false},
     {C::Fre, "Fre", "French Revolutionary", "French Revolutonary", "", 1, 14, 13,
      "French Revolutionary", false},
     {C::Heb, "Heb", "Hebrew", "Hebrew", " A.M.", 3768, 13759, 13, "Hebrew", false},
-    {C::HinLun, "HinLun", "Hindu Lunisolar Chaitra", "Hindu lunisolar Chaitra", " V.E.", 64,
-     10055, 12, "Hindu lunisolar", false},
-    {C::HinLun1, "HinLun1", "Hindu Lunisolar Ashada", "Hindu lunisolar Ashada", " V.E.", 64,
-     10054, 12, "Hindu lunisolar", false},
+    {C::HinLun, "HinLun", "Hindu Lunisolar Chaitra", "Hindu lunisolar Chaitra", " V.E.", 64, 10055,
+     12, "Hindu lunisolar", false},
+    {C::HinLun1, "HinLun1", "Hindu Lunisolar Ashada", "Hindu lunisolar Ashada", " V.E.", 64, 10054,
+     12, "Hindu lunisolar", false},
     {C::HinLun2, "HinLun2", "Hindu Lunisolar Kartika", "Hindu lunisolar Kartika", " V.E.", 64,
      10054, 12, "Hindu lunisolar", false},
     {C::HinLun3, "HinLun3", "Hindu Lunisolar Rajasthan", "", " V.E.", 65, 10055, 12,
      "Hindu lunisolar", false},
-    {C::HinSol, "HinSol", "Hindu Solar", "Hindu solar", " S.E.", 1, 9920, 12, "Hindu solar",
-     false},
+    {C::HinSol, "HinSol", "Hindu Solar", "Hindu solar", " S.E.", 1, 9920, 12, "Hindu solar", false},
     {C::Ind, "Ind", "Indian National", "Indian National", " S.E.", 1879, 9920, 12,
      "Indian National", true},
-    {C::Isl, "Isl", "Islamic Arithmetical", "Islamic arithmetical", " A.H.", 1, 9665, 12,
-     "Islamic", true},
+    {C::Isl, "Isl", "Islamic Arithmetical", "Islamic arithmetical", " A.H.", 1, 9665, 12, "Islamic",
+     true},
     {C::UAQ, "UAQ", "Islamic Umm al-Qura", "Islamic Umm al-Qura", " A.H.", 1356, 1500, 12,
      "Umm al-Qura", true},
     {C::Jav, "Jav", "Javanese Pawukon/Pasaran", "Javanese Pawukon/Pasaran", " A.J.", 1555, 10177,
@@ -77,9 +76,13 @@ static_assert(TableInOrder(), "calendar table must follow the order of CalType")
 
 }  // namespace
 
-const CalendarInfo& InfoOf(CalType type) { return kCalendars[static_cast<int>(type)]; }
+const CalendarInfo& InfoOf(CalType type) {
+  return kCalendars[static_cast<int>(type)];
+}
 
-std::string_view CodeOf(CalType type) { return InfoOf(type).code; }
+std::string_view CodeOf(CalType type) {
+  return InfoOf(type).code;
+}
 
 std::optional<CalType> CalTypeOfCode(std::string_view code) {
   for (const auto& c : kCalendars)

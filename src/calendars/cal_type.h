@@ -9,11 +9,48 @@
 namespace mc {
 
 enum class CalType : std::uint8_t {
-  Greg, Jul, RevJul, Afg, NewAfg, Per, APer, Arm, Bah, Bal, Ban, Chi, Vie, Cop, Egy, Eth,
-  Fas, ParShe, PerQad, Fre, Heb, HinLun, HinLun1, HinLun2, HinLun3, HinSol, Ind, Isl, UAQ,
-  Jav, Sikh, Yor,
+  Greg,
+  Jul,
+  RevJul,
+  Afg,
+  NewAfg,
+  Per,
+  APer,
+  Arm,
+  Bah,
+  Bal,
+  Ban,
+  Chi,
+  Vie,
+  Cop,
+  Egy,
+  Eth,
+  Fas,
+  ParShe,
+  PerQad,
+  Fre,
+  Heb,
+  HinLun,
+  HinLun1,
+  HinLun2,
+  HinLun3,
+  HinSol,
+  Ind,
+  Isl,
+  UAQ,
+  Jav,
+  Sikh,
+  Yor,
   // Day cycles and special codes of the conversion screens and validators.
-  Haab, Tzo, Ton, Xih, May, JDA, Paw, Oly1, Oly2,
+  Haab,
+  Tzo,
+  Ton,
+  Xih,
+  May,
+  JDA,
+  Paw,
+  Oly1,
+  Oly2,
   Count
 };
 inline constexpr int kCalTypeCount = static_cast<int>(CalType::Count);
@@ -39,9 +76,9 @@ struct CalendarInfo {
   std::string_view eraSuffix;   // " C.E.", or empty
   int firstYear;                // supported year range (0, 0: none)
   int lastYear;
-  int monthCount;               // most months a year holds
-  std::string_view messageName; // name in the year-range messages
-  bool anArticle;               // prompts say " an " rather than " a "
+  int monthCount;                // most months a year holds
+  std::string_view messageName;  // name in the year-range messages
+  bool anArticle;                // prompts say " an " rather than " a "
 };
 
 const CalendarInfo& InfoOf(CalType type);

@@ -47,9 +47,17 @@ enum class BalYearKind { A, B, C };
 BalYearKind BalineseYearKind(CalendarEngine& engine, int year) {
   if (!engine.IsLeapYear(CalType::Bal, year)) return BalYearKind::C;
   switch (((year % 19) + 19) % 19) {
-    case 0: case 6: case 11: return BalYearKind::A;
-    case 3: case 8: case 14: case 16: return BalYearKind::B;
-    default: return BalYearKind::C;
+    case 0:
+    case 6:
+    case 11:
+      return BalYearKind::A;
+    case 3:
+    case 8:
+    case 14:
+    case 16:
+      return BalYearKind::B;
+    default:
+      return BalYearKind::C;
   }
 }
 
@@ -92,9 +100,12 @@ int BalineseInternalMonth(CalendarEngine& engine, int m, int year) {
     return m + 4 >= 14 ? m + 4 - 13 : m + 4;
   }
   switch (kind) {
-    case BalYearKind::A: return m == 111 ? 3 : m == 12 ? 4 : 0;
-    case BalYearKind::B: return m == 12 ? 3 : m == 112 ? 4 : 0;
-    case BalYearKind::C: return m == 12 ? 3 : 0;
+    case BalYearKind::A:
+      return m == 111 ? 3 : m == 12 ? 4 : 0;
+    case BalYearKind::B:
+      return m == 12 ? 3 : m == 112 ? 4 : 0;
+    case BalYearKind::C:
+      return m == 12 ? 3 : 0;
   }
   return 0;
 }
@@ -142,25 +153,32 @@ int ValidateYearText(Context& ctx, CalType type, std::string_view text) {
       case CalType::HinLun3:
         ShowError(ctx, Err("Hindu Rajasthan lunisolar year must be greater then 64."));
         break;
-      case CalType::Oly1: ShowError(ctx, Err("Calendar year must not be earlier than 776 BC.")); break;
-      case CalType::Oly2: ShowError(ctx, Err("Olympiad value must be positive.")); break;
+      case CalType::Oly1:
+        ShowError(ctx, Err("Calendar year must not be earlier than 776 BC."));
+        break;
+      case CalType::Oly2:
+        ShowError(ctx, Err("Olympiad value must be positive."));
+        break;
       default:
-        ShowErrorText(ctx, name + " year must be greater than " +
-                               std::to_string(info.firstYear - 1) + ".");
+        ShowErrorText(
+            ctx, name + " year must be greater than " + std::to_string(info.firstYear - 1) + ".");
     }
     return 0;
   }
   if (*v > info.lastYear) {
     switch (type) {
       case CalType::HinLun1:
-      case CalType::HinLun2: ShowError(ctx, Err("Lunisolar year must not exceed 10054.")); break;
-      case CalType::Oly1: ShowError(ctx, Err("Calendar Year must not be later than 392 AD.")); break;
+      case CalType::HinLun2:
+        ShowError(ctx, Err("Lunisolar year must not exceed 10054."));
+        break;
+      case CalType::Oly1:
+        ShowError(ctx, Err("Calendar Year must not be later than 392 AD."));
+        break;
       case CalType::Oly2:
         ShowError(ctx, Err("Olympiad value must not be greater than 292."));
         break;
       default:
-        ShowErrorText(ctx,
-                      name + " year must not exceed " + std::to_string(info.lastYear) + ".");
+        ShowErrorText(ctx, name + " year must not exceed " + std::to_string(info.lastYear) + ".");
     }
     return 0;
   }
@@ -339,7 +357,8 @@ std::optional<CalDate> ParseDateText(Context& ctx, CalType type, std::string_vie
     case CalType::Yor:
       if (!CheckYoruba(ctx, engine, d.day, d.month, d.year)) return std::nullopt;
       return d;
-    default: break;
+    default:
+      break;
   }
 
   const int months = InfoOf(type).monthCount;
@@ -395,26 +414,36 @@ std::string FormatDateText(Context& ctx, CalType type, int day, int month, int y
     }
     case CalType::Bal:
       return n(day) + "/" + BalineseUserMonthText(Calendars(ctx), month, year) + "/" + n(year);
-    default: return n(day) + "/" + n(month) + "/" + n(year);
+    default:
+      return n(day) + "/" + n(month) + "/" + n(year);
   }
 }
 
 JD FirstJD(Context& ctx, CalType type) {
   CalendarEngine& engine = Calendars(ctx);
   switch (type) {
-    case CalType::Greg: return kGregorianStart;
-    case CalType::RevJul: return engine.DateToJD(type, 14, 10, 1923);
+    case CalType::Greg:
+      return kGregorianStart;
+    case CalType::RevJul:
+      return engine.DateToJD(type, 14, 10, 1923);
     case CalType::HinLun:
     case CalType::HinLun1:
     case CalType::HinLun2:
-    case CalType::HinLun3: return engine.DateToJD(type, 1, 1, 64);
-    case CalType::JDA: return FirstJulianDay();
-    default: return engine.DateToJD(type, 1, 1, InfoOf(type).firstYear);
+    case CalType::HinLun3:
+      return engine.DateToJD(type, 1, 1, 64);
+    case CalType::JDA:
+      return FirstJulianDay();
+    default:
+      return engine.DateToJD(type, 1, 1, InfoOf(type).firstYear);
   }
 }
 
-JD FirstJulianDay() { return JulianToJD(1, 1, 7); }
-JD LastJulianDay() { return GregorianToJD(31, 12, 9999); }
+JD FirstJulianDay() {
+  return JulianToJD(1, 1, 7);
+}
+JD LastJulianDay() {
+  return GregorianToJD(31, 12, 9999);
+}
 
 JD CheckJDText(Context& ctx, std::string_view text) {
   if (Trim(text).empty()) return 0;

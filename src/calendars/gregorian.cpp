@@ -29,7 +29,9 @@ CalDate JDToJulian(CalendarEngine& engine, JD jd) {
   return EstimateAndWalk(engine, CalType::Jul, jd, 1720997, 365, 0);
 }
 
-int MonthNumberOfName(std::string_view text) { return IndexOfAbbrev(text, kMonthAbbrevs, 12); }
+int MonthNumberOfName(std::string_view text) {
+  return IndexOfAbbrev(text, kMonthAbbrevs, 12);
+}
 
 int WeekdayNumberOfName(std::string_view text) {
   return IndexOfAbbrev(text, kWeekdayAbbrevs, 7);
@@ -40,8 +42,7 @@ int DayInMonthNumber(Context& ctx, std::string_view monthName, std::string_view 
   int month = MonthNumberOfName(monthName);
   int target = WeekdayNumberOfName(weekdayName);
   std::string_view ordinal = Left(Trim(ordinalWord), 3);
-  static constexpr std::string_view kOrdinals[] = {"Fir", "Sec", "Thi", "Fou",
-                                                   "Fif", "Las", "Pen"};
+  static constexpr std::string_view kOrdinals[] = {"Fir", "Sec", "Thi", "Fou", "Fif", "Las", "Pen"};
   int which = 0;
   for (int i = 0; i < 7; ++i)
     if (kOrdinals[i] == ordinal) which = i + 1;

@@ -56,7 +56,9 @@ class CalendarEngine {
 };
 
 // The engine of this context.
-inline CalendarEngine& Calendars(Context& ctx) { return ctx.Module<CalendarEngine>(); }
+inline CalendarEngine& Calendars(Context& ctx) {
+  return ctx.Module<CalendarEngine>();
+}
 
 // Weekday of a day number, 1 = Sunday .. 7 = Saturday.
 constexpr int WeekdayOfJD(JD jd) {

@@ -32,7 +32,8 @@ int ToJD(CliEnv& env, const std::string& code, const std::string& text) {
   if (*type == CalType::JDA) {
     jd = CheckJDText(env.ctx, text);
     if (jd == 0) {
-      if (Trim(text).empty()) ShowError(env.ctx, Err("Julian Day value is outside specified range."));
+      if (Trim(text).empty())
+        ShowError(env.ctx, Err("Julian Day value is outside specified range."));
       return kExitRefused;
     }
   } else {

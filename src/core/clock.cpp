@@ -17,8 +17,7 @@ chr::sys_days DaysOf(const LocalDateTime& t) {
 
 LocalDateTime AddMilliseconds(const LocalDateTime& t, std::int64_t ms) {
   const std::int64_t msPerDay = 86'400'000;
-  std::int64_t inDay =
-      ((t.hour * 60LL + t.minute) * 60 + t.second) * 1000 + t.millisecond + ms;
+  std::int64_t inDay = ((t.hour * 60LL + t.minute) * 60 + t.second) * 1000 + t.millisecond + ms;
   std::int64_t dayShift = inDay / msPerDay;
   inDay %= msPerDay;
   if (inDay < 0) {
@@ -52,8 +51,8 @@ std::optional<LocalDateTime> ParseIsoDateTime(const std::string& text) {
         static_cast<std::size_t>(consumed + more) != text.size())
       return std::nullopt;
   }
-  if (t.year < 1 || t.year > 9999 || t.hour > 23 || t.minute > 59 || t.second > 59 ||
-      t.hour < 0 || t.minute < 0 || t.second < 0)
+  if (t.year < 1 || t.year > 9999 || t.hour > 23 || t.minute > 59 || t.second > 59 || t.hour < 0 ||
+      t.minute < 0 || t.second < 0)
     return std::nullopt;
   chr::year_month_day ymd{chr::year{t.year}, chr::month{static_cast<unsigned>(t.month)},
                           chr::day{static_cast<unsigned>(t.day)}};
@@ -67,7 +66,7 @@ LocalDateTime SystemClock::Now() {
   auto ms = chr::duration_cast<chr::milliseconds>(now.time_since_epoch()).count() % 1000;
   std::tm tm{};
   localtime_r(&secs, &tm);
-  return LocalDateTime{tm.tm_year + 1900, tm.tm_mon + 1, tm.tm_mday, tm.tm_hour,
+  return LocalDateTime{tm.tm_year + 1900, tm.tm_mon + 1, tm.tm_mday,          tm.tm_hour,
                        tm.tm_min,         tm.tm_sec,     static_cast<int>(ms)};
 }
 

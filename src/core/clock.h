@@ -3,8 +3,8 @@
 #pragma once
 
 #include <cstdint>
-#include <string>
 #include <optional>
+#include <string>
 
 namespace mc {
 

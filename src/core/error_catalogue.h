@@ -56,7 +56,8 @@ inline constexpr std::array<std::string_view, kErrorCatalogueSize + 1> kErrorCat
     /*39*/ "Non-numeric Chinese or Vietnamese sexagesimal cycle c.",
     /*40*/ "Chinese or Vietnamese sexagesimal cycle c must be an integer value.",
     /*41*/ "Chinese or Vietnamese year-within-cycle y must be a value between 1 and 60, inclusive.",
-    /*42*/ "Chinese or Vietnamese sexagesimal cycle c must be a value between 72 and 94, inclusive.",
+    /*42*/
+    "Chinese or Vietnamese sexagesimal cycle c must be a value between 72 and 94, inclusive.",
     /*43*/ "When Chinese or Vietnamese sexagesimal cycle c = 72, y must be greater than 21.",
     /*44*/ "When Chinese or Vietnamese sexagesimal cycle c = 94, y must be less than 58.",
     /*45*/ "Unrecognised Windows short date format.",
@@ -584,7 +585,8 @@ inline constexpr std::array<std::string_view, kErrorCatalogueSize + 1> kErrorCat
     /*567*/ "Javanese year must be greater than 1554.",
     /*568*/ "Javanese year must not exceed 10177.",
     /*569*/ "More than two colon separators detected in a countdown period.",
-    /*570*/ "Number of seconds in a countdown period of the form H:M:S or M:S must be less than 60.",
+    /*570*/
+    "Number of seconds in a countdown period of the form H:M:S or M:S must be less than 60.",
     /*571*/ "Number of minutes in a countdown period of the form H:M:S must be less than 60.",
     /*572*/ "Range lower limit must not be greater than range upper limit.",
     /*573*/ "Problem encountered running yafu.exe.",

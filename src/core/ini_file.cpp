@@ -16,9 +16,13 @@ constexpr std::string_view kBakName = "mercod.bak";
 constexpr std::string_view kMissingIni =
     "File mercod.ini not found. Exit program -- it will not run properly.";
 
-std::string SectionHead(int formNumber) { return "[Form" + std::to_string(formNumber) + "]"; }
+std::string SectionHead(int formNumber) {
+  return "[Form" + std::to_string(formNumber) + "]";
+}
 
-bool MatchesKey(std::string_view line, std::string_view key) { return StartsWith(line, key); }
+bool MatchesKey(std::string_view line, std::string_view key) {
+  return StartsWith(line, key);
+}
 
 std::string KeyLine(std::string_view key, std::string_view value) {
   return std::string(key) + " = " + std::string(value);
@@ -109,8 +113,7 @@ void UpdateIniFile(Context& ctx, int formNumber, std::string_view paramName,
                    std::string_view paramVal) {
   constexpr std::string_view proc = "UpdateIniFile";
   ctx.Trace("UpdateIniFile entered. FormNumber = " + std::to_string(formNumber) +
-            ". ParamName$ = " + std::string(paramName) +
-            ". ParamVal$ = " + std::string(paramVal));
+            ". ParamName$ = " + std::string(paramName) + ". ParamVal$ = " + std::string(paramVal));
   if (!std::filesystem::exists(ctx.FilePath(kIniName))) {
     ctx.sink().Show(kFailure, kMissingIni);
     return;

@@ -39,6 +39,8 @@ char DetectDecimalSeparator() {
   return (lc && lc->decimal_point && lc->decimal_point[0] == ',') ? ',' : '.';
 }
 
-void AdoptUserLocale() { std::setlocale(LC_ALL, ""); }
+void AdoptUserLocale() {
+  std::setlocale(LC_ALL, "");
+}
 
 }  // namespace mc

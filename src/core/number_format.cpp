@@ -98,8 +98,8 @@ std::string FormatWithMask(double value, std::string_view mask, char decimalSepa
     if (out.empty()) out = "0";
   }
   bool allZero = out.find_first_of("123456789") == std::string::npos ||
-                 (s.scientific && out.substr(0, out.find('E')).find_first_of("123456789") ==
-                                      std::string::npos);
+                 (s.scientific &&
+                  out.substr(0, out.find('E')).find_first_of("123456789") == std::string::npos);
   if (negative && !allZero) out.insert(0, 1, '-');
   for (auto& c : out)
     if (c == '.') c = decimalSeparator;
@@ -127,9 +127,9 @@ std::string FormatSigFigs(int sigFigs, double value, char decimalSeparator) {
     std::string_view mask;
   } kMasks[] = {
       {1e12, "############0.0"}, {1e11, "###########0.0#"}, {1e10, "##########0.0##"},
-      {1e9, "#########0.0###"},   {1e8, "########0.0####"},  {1e7, "#######0.0#####"},
-      {1e6, "######0.0######"},   {1e5, "#####0.0#######"},  {1e4, "####0.0########"},
-      {1e3, "###0.0#########"},   {100, "##0.0##########"},  {10, "#0.0###########"},
+      {1e9, "#########0.0###"},  {1e8, "########0.0####"},  {1e7, "#######0.0#####"},
+      {1e6, "######0.0######"},  {1e5, "#####0.0#######"},  {1e4, "####0.0########"},
+      {1e3, "###0.0#########"},  {100, "##0.0##########"},  {10, "#0.0###########"},
   };
   double a = std::fabs(value);
   std::string_view mask = "0.0############";

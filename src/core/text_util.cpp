@@ -12,7 +12,9 @@ std::string_view Trim(std::string_view s) {
   return s.substr(b, e - b + 1);
 }
 
-std::string TrimCopy(std::string_view s) { return std::string(Trim(s)); }
+std::string TrimCopy(std::string_view s) {
+  return std::string(Trim(s));
+}
 
 std::vector<std::string> SplitLines(std::string_view text) {
   std::vector<std::string> lines;
@@ -49,7 +51,9 @@ std::string ToLower(std::string_view s) {
   return r;
 }
 
-std::string_view Left(std::string_view s, std::size_t n) { return s.substr(0, n); }
+std::string_view Left(std::string_view s, std::size_t n) {
+  return s.substr(0, n);
+}
 
 std::size_t DisplayWidth(std::string_view s) {
   std::size_t n = 0;

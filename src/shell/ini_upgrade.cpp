@@ -63,12 +63,10 @@ constexpr std::pair<const char*, const char*> kPrintKeys[] = {
 };
 
 constexpr std::pair<const char*, const char*> kWorldClocks[] = {
-    {"England UK", "London"},        {"France", "Paris"},
-    {"Germany", "Berlin"},           {"Russia", "Moscow"},
-    {"China", "Beijing"},            {"Japan", "Tokyo"},
-    {"Australia", "Canberra ACT"},   {"New Zealand", "Wellington"},
-    {"Canada", "Ottawa ON"},         {"USA", "Washington D.C. MD"},
-    {"Brazil", "Brasilia DF"},       {"Argentina", "Buenos Aires"},
+    {"England UK", "London"},      {"France", "Paris"},           {"Germany", "Berlin"},
+    {"Russia", "Moscow"},          {"China", "Beijing"},          {"Japan", "Tokyo"},
+    {"Australia", "Canberra ACT"}, {"New Zealand", "Wellington"}, {"Canada", "Ottawa ON"},
+    {"USA", "Washington D.C. MD"}, {"Brazil", "Brasilia DF"},     {"Argentina", "Buenos Aires"},
 };
 
 // The additions of one step; sections added get the palette of their step.
@@ -137,10 +135,18 @@ void ApplyStep(Context& ctx, int to) {
           .Key(8, "Unit 2", "Choose unit");
       break;
     }
-    case 161: s.Section(33, "Stop Watch"); break;
-    case 162: s.Key(17, "Religion", "Christian"); break;
-    case 163: s.Key(20, "2D Object", "Circle").Key(20, "3D Object", "Buckminster Ball"); break;
-    case 164: s.Section(34, "Reaction Timer"); break;
+    case 161:
+      s.Section(33, "Stop Watch");
+      break;
+    case 162:
+      s.Key(17, "Religion", "Christian");
+      break;
+    case 163:
+      s.Key(20, "2D Object", "Circle").Key(20, "3D Object", "Buckminster Ball");
+      break;
+    case 164:
+      s.Section(34, "Reaction Timer");
+      break;
     case 165:
       s.Key(0, "Islamic Leap Year Scheme", "2").Key(0, "Islamic Epoch Day of Week", "Friday");
       break;
@@ -315,9 +321,14 @@ void ApplyStep(Context& ctx, int to) {
           .Key(16, "Time Zone 2", "ACDT Australian Central Daylight Time")
           .Key(16, "Date and Time 1", "");
       break;
-    case 188: s.Key(35, "Year", "1700"); break;
-    case 189: s.Items(68, 68); break;
-    default: break;  // 183, 184, 185 and 190: the version alone
+    case 188:
+      s.Key(35, "Year", "1700");
+      break;
+    case 189:
+      s.Items(68, 68);
+      break;
+    default:
+      break;  // 183, 184, 185 and 190: the version alone
   }
 }
 

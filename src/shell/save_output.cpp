@@ -7,8 +7,7 @@
 
 namespace mc {
 
-std::string SavedOutputContent(std::string_view text, SaveStyle style,
-                               const LocalDateTime& today) {
+std::string SavedOutputContent(std::string_view text, SaveStyle style, const LocalDateTime& today) {
   if (style == SaveStyle::MainScreen) {
     std::string_view rest = text;
     std::string out;
@@ -31,7 +30,7 @@ std::string SavedOutputContent(std::string_view text, SaveStyle style,
 
 bool SaveOutput(Context& ctx, std::string_view text, const std::filesystem::path& file,
                 SaveStyle style) {
-  if (Trim(text).empty()) return false;
+  if (text.find_first_not_of(" \t\r\n") == std::string_view::npos) return false;
   ctx.settings.lastFileOpened = file.string();
   if (!WriteFileAtomically(file, SavedOutputContent(text, style, ctx.Now()))) {
     ShowRunTimeError(ctx, kPathFileAccess);

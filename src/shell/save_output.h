@@ -16,8 +16,7 @@ enum class SaveStyle {
 };
 
 // The bytes written for a saved output.
-std::string SavedOutputContent(std::string_view text, SaveStyle style,
-                               const LocalDateTime& today);
+std::string SavedOutputContent(std::string_view text, SaveStyle style, const LocalDateTime& today);
 
 // Writes the output to `file` (through a work file, so a failed save leaves
 // any earlier file whole) and confirms with "Success!". An output that is
