@@ -1,0 +1,259 @@
+#include "ui/main_window.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QScreen>
+#include <QSystemTrayIcon>
+#include <QTimer>
+
+#include "core/safe_file.h"
+#include "ui/fonts.h"
+#include "ui/output_box.h"
+#include "ui/screen_colours.h"
+#include "ui/screen_form.h"
+
+namespace mc::ui {
+
+namespace {
+
+QLineEdit* Box(QWidget* parent, const char* name, int width) {
+  auto* b = new QLineEdit(parent);
+  b->setObjectName(name);
+  b->setReadOnly(true);
+  b->setFocusPolicy(Qt::NoFocus);
+  if (width) b->setFixedWidth(width);
+  return b;
+}
+
+QString Q(const std::string& s) { return QString::fromUtf8(s.data(), static_cast<int>(s.size())); }
+
+}  // namespace
+
+MainWindow::MainWindow(Desktop& desktop)
+    : desktop_(desktop), ctx_(desktop.ctx()), model_(desktop.ctx()) {
+  setObjectName("Form1");
+  setWindowTitle("Meridian Codex");
+  setWindowIcon(QIcon(Q(ctx_.FilePath("sun.ico").string())));
+  desktop_.SetMainWindow(this);
+
+  auto* central = new QWidget(this);
+  auto* grid = new QGridLayout(central);
+  date_ = Box(central, "Text2", 150);
+  clock_ = Box(central, "Text3", 110);
+  julianDay_ = Box(central, "Text4", 190);
+  place_ = Box(central, "Text5", 0);
+  sun_ = Box(central, "Text6", 0);
+  lamp_ = new QLabel(QString(QChar(0x25CF)), central);  // the reminder lamp
+  lamp_->setObjectName("Text7");
+  lamp_->setAlignment(Qt::AlignCenter);
+  lamp_->setFixedWidth(28);
+  output_ = new OutputBox(ctx_, central);
+  output_->setObjectName("Text1");
+  note_ = new QLabel("Press F11 for an enlarged view of the output.", central);
+  note_->setObjectName("Label8");
+  auto* top = new QHBoxLayout;
+  top->addWidget(date_);
+  top->addWidget(clock_);
+  top->addWidget(julianDay_);
+  top->addStretch();
+  top->addWidget(lamp_);
+  grid->addLayout(top, 0, 0, 1, 2);
+  grid->addWidget(place_, 1, 0);
+  grid->addWidget(sun_, 1, 1);
+  grid->addWidget(output_, 2, 0, 1, 2);
+  grid->addWidget(note_, 3, 0, 1, 2);
+  grid->setRowStretch(2, 1);
+  setCentralWidget(central);
+  connect(output_, &OutputBox::enlargeToggled, this, &MainWindow::ToggleEnlarged);
+  connect(output_, &OutputBox::findRequested, this, [this] { desktop_.OpenFind(this, output_); });
+  connect(output_, &OutputBox::helpRequested, this,
+          [this] { desktop_.OpenHelpFile("readme.pdf"); });
+
+  BuildMenus();
+  timer_ = new QTimer(this);
+  timer_->setInterval(1000);
+  connect(timer_, &QTimer::timeout, this, &MainWindow::Tick);
+  resize(900, 620);
+}
+
+void MainWindow::Load() {
+  output_->setFont(DisplayFixedFont(ctx_.settings, 1));
+  place_->setText(Q(model_.PlaceText()));
+  output_->SetReport("");
+  output_->setFont(DisplayPropFont(ctx_.settings));
+  output_->SetReport("No personal reminders currently defined.");
+  ctx_.Trace("Main form load. Favourite items about to be handled.");
+  ApplyFavourites();
+  ctx_.Trace("Main form load. Favourite items have been handled.");
+  if (QScreen* s = screen()) {
+    const QRect avail = s->availableGeometry();
+    move(avail.left() + (avail.width() - width()) / 2, avail.top() + (avail.height() - height()) / 2);
+  }
+  normalGeometry_ = geometry();
+  Tick();
+  timer_->start();
+  int opening = model_.OpeningScreen();
+  if (opening != 1 && desktop_.Open(opening)) {
+    ctx_.Trace("Main form load. Opening screen has been displayed.");
+  }
+}
+
+void MainWindow::BuildMenus() {
+  for (const Menu& menu : MenuBar()) {
+    QMenu* m = menuBar()->addMenu(Q(std::string(menu.caption)));
+    m->setObjectName(Q(std::string(menu.name)));
+    if (menu.name == "muFavourites") {
+      favourites_ = m;
+      for (int i = 0; i < MainScreenModel::kFavouriteCount; ++i) {
+        QAction* a = m->addAction(Q(std::string(kFavourites[i])));
+        a->setObjectName(QString("muFav%1").arg(i));
+        const MenuEntry* entry = EntryOfFavourite(i);
+        a->setEnabled(entry && Implemented(*entry));
+        if (entry) connect(a, &QAction::triggered, this, [this, entry] { Run(*entry); });
+        actions_[a->objectName()] = a;
+      }
+      continue;
+    }
+    for (const MenuEntry& e : menu.entries) {
+      if (e.caption == "---") {
+        m->addSeparator();
+        continue;
+      }
+      QAction* a = m->addAction(Q(std::string(e.caption)));
+      a->setObjectName(Q(std::string(e.name)));
+      a->setEnabled(Implemented(e));
+      connect(a, &QAction::triggered, this, [this, &e] { Run(e); });
+      actions_[a->objectName()] = a;
+    }
+  }
+}
+
+void MainWindow::ApplyFavourites() {
+  auto shown = model_.FavouritesShown();
+  for (int i = 0; i < MainScreenModel::kFavouriteCount; ++i)
+    actions_[QString("muFav%1").arg(i)]->setVisible(shown[static_cast<std::size_t>(i)]);
+  favourites_->menuAction()->setVisible(model_.FavouritesMenuShown());
+}
+
+QAction* MainWindow::ActionNamed(const QString& name) const {
+  auto it = actions_.find(name);
+  return it == actions_.end() ? nullptr : it->second;
+}
+
+bool MainWindow::Implemented(const MenuEntry& e) const {
+  if (e.form) return Desktop::IsBuilt(e.form);
+  switch (e.command) {
+    case Command::Save:
+    case Command::Print:
+    case Command::Exit:
+    case Command::GeneralHelp:
+    case Command::MenuBarSummary:
+    case Command::SpecialKeysSummary:
+    case Command::VersionHistory: return true;
+    default: return false;
+  }
+}
+
+void MainWindow::Run(const MenuEntry& e) {
+  if (e.form) {
+    desktop_.Open(e.form);
+    return;
+  }
+  switch (e.command) {
+    case Command::Save: desktop_.SaveOutput(this, output_->Report(), SaveStyle::MainScreen); break;
+    case Command::Print: desktop_.PrintOutput(this, output_->Report()); break;
+    case Command::Exit: close(); break;
+    case Command::GeneralHelp: desktop_.OpenHelpFile("readme.pdf"); break;
+    case Command::MenuBarSummary: desktop_.OpenHelpFile("MenuBar.pdf"); break;
+    case Command::SpecialKeysSummary: desktop_.OpenHelpFile("SpecKeys.pdf"); break;
+    case Command::VersionHistory: desktop_.OpenHelpFile("history.pdf"); break;
+    default: break;
+  }
+}
+
+void MainWindow::Tick() {
+  const LocalDateTime now = ctx_.Now();
+  ScreenForm* active = desktop_.ActiveScreen();
+  if (active) {
+    active->Tick(now);
+    return;
+  }
+  MainScreenModel::Tick t = model_.OnTick(now);
+  clock_->setText(Q(t.clockText));
+  if (t.dateText) date_->setText(Q(*t.dateText));
+  julianDay_->setVisible(t.julianDayText.has_value());
+  if (t.julianDayText) julianDay_->setText(Q(*t.julianDayText));
+}
+
+void MainWindow::showEvent(QShowEvent* event) {
+  ctx_.Trace("Main form activate entered.");
+  ApplyScreenColours(ctx_, this, 1);
+  ctx_.settings.currentForm.clear();
+  QMainWindow::showEvent(event);
+}
+
+void MainWindow::ToggleEnlarged() {
+  QScreen* s = screen();
+  if (!s) return;
+  const QRect avail = s->availableGeometry();
+  if (!enlarged_) {
+    normalGeometry_ = geometry();
+    const int width = avail.width() - 27;
+    setGeometry(avail.left() + (avail.width() - width) / 2, geometry().top(), width, height());
+    note_->setText("Press F11 to return to the normal view of the output.");
+  } else {
+    setGeometry(avail.left() + (avail.width() - normalGeometry_.width()) / 2,
+                normalGeometry_.top(), normalGeometry_.width(), normalGeometry_.height());
+    note_->setText("Press F11 for an enlarged view of the output.");
+  }
+  enlarged_ = !enlarged_;
+}
+
+void MainWindow::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::WindowStateChange && isMinimized() &&
+      ctx_.settings.minimiseToTray == "Yes" && QSystemTrayIcon::isSystemTrayAvailable()) {
+    QTimer::singleShot(0, this, &MainWindow::ToTray);
+  }
+  QMainWindow::changeEvent(event);
+}
+
+void MainWindow::ToTray() {
+  if (!tray_) {
+    tray_ = new QSystemTrayIcon(windowIcon(), this);
+    tray_->setToolTip("Meridian Codex");
+    auto* menu = new QMenu(this);
+    menu->setObjectName("mnuPopup");
+    menu->addAction("Restore", this, &MainWindow::FromTray)->setObjectName("mnuRestore");
+    menu->addAction("Exit", qApp, &QApplication::quit)->setObjectName("mnuExit");
+    tray_->setContextMenu(menu);
+    connect(tray_, &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason r) {
+      if (r == QSystemTrayIcon::DoubleClick || r == QSystemTrayIcon::Trigger) FromTray();
+    });
+  }
+  tray_->show();
+  hide();
+}
+
+void MainWindow::FromTray() {
+  if (tray_) tray_->hide();
+  showNormal();
+  raise();
+  activateWindow();
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+  // The same clean-up for every way out.
+  RemoveIfExists(ctx_.FilePath("mainsol.dat"));
+  RemoveIfExists(ctx_.FilePath("secsol.dat"));
+  if (tray_) tray_->hide();
+  event->accept();
+  qApp->quit();
+}
+
+}  // namespace mc::ui

@@ -1,0 +1,67 @@
+// The main screen (form 1): date, clock, Julian Day, place, sun and reminder
+// boxes over one large output box, the menu bar with the favourites, the one
+// timer that drives every live display, and the tray icon.
+#pragma once
+
+#include <QMainWindow>
+#include <map>
+
+#include "shell/main_screen.h"
+#include "ui/desktop.h"
+#include "ui/menus.h"
+
+class QAction;
+class QLabel;
+class QLineEdit;
+class QMenu;
+class QSystemTrayIcon;
+class QTimer;
+
+namespace mc::ui {
+
+class OutputBox;
+
+class MainWindow : public QMainWindow {
+  Q_OBJECT
+ public:
+  explicit MainWindow(Desktop& desktop);
+
+  // The load's later steps: output font, place box, favourites, opening screen.
+  void Load();
+  // One tick of the timer, with the context's clock.
+  void Tick();
+
+  OutputBox* Output() const { return output_; }
+  QAction* ActionNamed(const QString& name) const;
+  QMenu* FavouritesMenu() const { return favourites_; }
+  QTimer* Timer() const { return timer_; }
+
+ protected:
+  void changeEvent(QEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+
+ private:
+  void BuildMenus();
+  void ApplyFavourites();
+  void Run(const MenuEntry& entry);
+  bool Implemented(const MenuEntry& entry) const;
+  void ToggleEnlarged();
+  void ToTray();
+  void FromTray();
+
+  Desktop& desktop_;
+  Context& ctx_;
+  MainScreenModel model_;
+  OutputBox* output_;
+  QLineEdit *date_, *clock_, *julianDay_, *place_, *sun_;
+  QLabel *lamp_, *note_;
+  QMenu* favourites_ = nullptr;
+  std::map<QString, QAction*> actions_;
+  QTimer* timer_;
+  QSystemTrayIcon* tray_ = nullptr;
+  QRect normalGeometry_;
+  bool enlarged_ = false;
+};
+
+}  // namespace mc::ui
