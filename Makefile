@@ -6,7 +6,7 @@ BUILD ?= build
 BUILD_TYPE ?= RelWithDebInfo
 JOBS ?= $(shell nproc)
 
-.PHONY: all deps configure build run test bench clean
+.PHONY: all deps configure build run test bench clean screenshots
 
 all: build
 
@@ -32,3 +32,8 @@ bench: build
 
 clean:
 	@rm -rf $(BUILD)
+
+# Pictures of every built screen under Xvfb, for reviewing layouts (not committed).
+screenshots: build
+	@xvfb-run -a -s "-screen 0 1600x1200x24" $(BUILD)/bin/codex --screenshots $(BUILD)/screenshots
+	@ls $(BUILD)/screenshots

@@ -53,12 +53,16 @@ std::string JulianDayText(double julianDay) {
 std::string FormatElapsed(long seconds, int mode) {
   char buf[48];
   switch (mode) {
-    case 1: std::snprintf(buf, sizeof buf, "%ld:%02ld", seconds / 60, seconds % 60); break;
+    case 1:
+      std::snprintf(buf, sizeof buf, "%ld:%02ld", seconds / 60, seconds % 60);
+      break;
     case 2:
       std::snprintf(buf, sizeof buf, "%ld:%02ld:%02ld", seconds / 3600, (seconds / 60) % 60,
                     seconds % 60);
       break;
-    default: std::snprintf(buf, sizeof buf, "%ld", seconds); break;
+    default:
+      std::snprintf(buf, sizeof buf, "%ld", seconds);
+      break;
   }
   return buf;
 }
@@ -80,7 +84,8 @@ MainScreenModel::Tick MainScreenModel::OnTick(const LocalDateTime& now) {
     lastDateText_ = date;
     t.dateText = date;
   }
-  if (s.showJulianDay == "Yes") t.julianDayText = JulianDayText(JulianDayOfMoment(now, s.homeZoneOffset));
+  if (s.showJulianDay == "Yes")
+    t.julianDayText = JulianDayText(JulianDayOfMoment(now, s.homeZoneOffset));
   return t;
 }
 

@@ -38,7 +38,7 @@ class MainScreenModel {
   // What one tick changes on the main screen.
   struct Tick {
     std::string clockText;
-    std::optional<std::string> dateText;  // only when it differs from the last one shown
+    std::optional<std::string> dateText;       // only when it differs from the last one shown
     std::optional<std::string> julianDayText;  // when the Julian Day box is shown
   };
   Tick OnTick(const LocalDateTime& now);

@@ -14,7 +14,9 @@ namespace {
 
 constexpr int kForm = 29;
 
-std::string Bool(bool v) { return v ? "True" : "False"; }
+std::string Bool(bool v) {
+  return v ? "True" : "False";
+}
 
 // A key of [Form29], or its default when the value is empty or unreadable.
 class Section {
@@ -52,7 +54,9 @@ PrintFont ReadFont(Section& s, const char* prefix, const PrintFont& d, bool hasN
   return f;
 }
 
-std::string Margin(double v) { return FormatSigFigs(6, v); }
+std::string Margin(double v) {
+  return FormatSigFigs(6, v);
+}
 
 }  // namespace
 

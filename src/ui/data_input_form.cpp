@@ -28,6 +28,8 @@ DataInputForm::DataInputForm(const QString& caption, const QString& prompt, bool
   setMinimumWidth(360);
 }
 
-QString DataInputForm::Reply() const { return reply_->text(); }
+QString DataInputForm::Reply() const {
+  return reply_->text();
+}
 
 }  // namespace mc::ui

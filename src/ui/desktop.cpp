@@ -94,7 +94,8 @@ void Desktop::OpenFind(QWidget* parent, OutputBox* box) {
 void Desktop::OpenHelpFile(const QString& pdfName) {
   QProcess query;
   query.start("xdg-mime", {"query", "default", "application/pdf"});
-  bool registered = query.waitForFinished(3000) && !query.readAllStandardOutput().trimmed().isEmpty();
+  bool registered =
+      query.waitForFinished(3000) && !query.readAllStandardOutput().trimmed().isEmpty();
   if (!registered) {
     ShowError(ctx_, Err("No application currently associated with PDF files."));
     return;

@@ -12,8 +12,7 @@
 
 namespace mc::ui {
 
-FindForm::FindForm(Desktop& desktop, OutputBox* box, QWidget* parent)
-    : QDialog(parent), box_(box) {
+FindForm::FindForm(Desktop& desktop, OutputBox* box, QWidget* parent) : QDialog(parent), box_(box) {
   setObjectName("Form74");
   setWindowTitle("Find Text");
   auto* layout = new QVBoxLayout(this);

@@ -18,6 +18,8 @@ QFont DisplayFixedFont(const SettingsBlock& s, int extraSize) {
   return FontOf(s.displayFixedFont, extraSize, true);
 }
 
-QFont DisplayPropFont(const SettingsBlock& s) { return FontOf(s.displayPropFont); }
+QFont DisplayPropFont(const SettingsBlock& s) {
+  return FontOf(s.displayPropFont);
+}
 
 }  // namespace mc::ui

@@ -31,7 +31,9 @@ QLineEdit* Box(QWidget* parent, const char* name, int width) {
   return b;
 }
 
-QString Q(const std::string& s) { return QString::fromUtf8(s.data(), static_cast<int>(s.size())); }
+QString Q(const std::string& s) {
+  return QString::fromUtf8(s.data(), static_cast<int>(s.size()));
+}
 
 }  // namespace
 
@@ -93,7 +95,8 @@ void MainWindow::Load() {
   ctx_.Trace("Main form load. Favourite items have been handled.");
   if (QScreen* s = screen()) {
     const QRect avail = s->availableGeometry();
-    move(avail.left() + (avail.width() - width()) / 2, avail.top() + (avail.height() - height()) / 2);
+    move(avail.left() + (avail.width() - width()) / 2,
+         avail.top() + (avail.height() - height()) / 2);
   }
   normalGeometry_ = geometry();
   Tick();
@@ -155,8 +158,10 @@ bool MainWindow::Implemented(const MenuEntry& e) const {
     case Command::GeneralHelp:
     case Command::MenuBarSummary:
     case Command::SpecialKeysSummary:
-    case Command::VersionHistory: return true;
-    default: return false;
+    case Command::VersionHistory:
+      return true;
+    default:
+      return false;
   }
 }
 
@@ -166,14 +171,29 @@ void MainWindow::Run(const MenuEntry& e) {
     return;
   }
   switch (e.command) {
-    case Command::Save: desktop_.SaveOutput(this, output_->Report(), SaveStyle::MainScreen); break;
-    case Command::Print: desktop_.PrintOutput(this, output_->Report()); break;
-    case Command::Exit: close(); break;
-    case Command::GeneralHelp: desktop_.OpenHelpFile("readme.pdf"); break;
-    case Command::MenuBarSummary: desktop_.OpenHelpFile("MenuBar.pdf"); break;
-    case Command::SpecialKeysSummary: desktop_.OpenHelpFile("SpecKeys.pdf"); break;
-    case Command::VersionHistory: desktop_.OpenHelpFile("history.pdf"); break;
-    default: break;
+    case Command::Save:
+      desktop_.SaveOutput(this, output_->Report(), SaveStyle::MainScreen);
+      break;
+    case Command::Print:
+      desktop_.PrintOutput(this, output_->Report());
+      break;
+    case Command::Exit:
+      close();
+      break;
+    case Command::GeneralHelp:
+      desktop_.OpenHelpFile("readme.pdf");
+      break;
+    case Command::MenuBarSummary:
+      desktop_.OpenHelpFile("MenuBar.pdf");
+      break;
+    case Command::SpecialKeysSummary:
+      desktop_.OpenHelpFile("SpecKeys.pdf");
+      break;
+    case Command::VersionHistory:
+      desktop_.OpenHelpFile("history.pdf");
+      break;
+    default:
+      break;
   }
 }
 
@@ -208,8 +228,8 @@ void MainWindow::ToggleEnlarged() {
     setGeometry(avail.left() + (avail.width() - width) / 2, geometry().top(), width, height());
     note_->setText("Press F11 to return to the normal view of the output.");
   } else {
-    setGeometry(avail.left() + (avail.width() - normalGeometry_.width()) / 2,
-                normalGeometry_.top(), normalGeometry_.width(), normalGeometry_.height());
+    setGeometry(avail.left() + (avail.width() - normalGeometry_.width()) / 2, normalGeometry_.top(),
+                normalGeometry_.width(), normalGeometry_.height());
     note_->setText("Press F11 for an enlarged view of the output.");
   }
   enlarged_ = !enlarged_;

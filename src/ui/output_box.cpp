@@ -26,11 +26,10 @@ bool OutputBox::Find(const QString& text, bool matchCase, bool first) {
   matchCase_ = matchCase;
   const QString haystack = toPlainText();
   const int from = first || lastHit_ < 0 ? 0 : lastHit_ + static_cast<int>(text.size());
-  const int hit =
-      haystack.indexOf(text, from, matchCase ? Qt::CaseSensitive : Qt::CaseInsensitive);
+  const int hit = haystack.indexOf(text, from, matchCase ? Qt::CaseSensitive : Qt::CaseInsensitive);
   if (hit < 0) {
-    ctx_.sink().Show(kSorry, first || lastHit_ < 0 ? "Text not found."
-                                                   : "No more occurrences of text.");
+    ctx_.sink().Show(kSorry,
+                     first || lastHit_ < 0 ? "Text not found." : "No more occurrences of text.");
     return false;
   }
   lastHit_ = hit;
@@ -48,11 +47,19 @@ void OutputBox::FindNext() {
 
 void OutputBox::keyPressEvent(QKeyEvent* event) {
   switch (event->key()) {
-    case Qt::Key_F11: emit enlargeToggled(); return;
-    case Qt::Key_F3: FindNext(); return;
-    case Qt::Key_F1: emit helpRequested(); return;
-    case Qt::Key_Tab: return;  // focus stays in the output
-    default: break;
+    case Qt::Key_F11:
+      emit enlargeToggled();
+      return;
+    case Qt::Key_F3:
+      FindNext();
+      return;
+    case Qt::Key_F1:
+      emit helpRequested();
+      return;
+    case Qt::Key_Tab:
+      return;  // focus stays in the output
+    default:
+      break;
   }
   if (event->modifiers() & Qt::ControlModifier) {
     if (event->key() == Qt::Key_F) {
@@ -67,6 +74,8 @@ void OutputBox::keyPressEvent(QKeyEvent* event) {
   QPlainTextEdit::keyPressEvent(event);
 }
 
-bool OutputBox::focusNextPrevChild(bool) { return false; }
+bool OutputBox::focusNextPrevChild(bool) {
+  return false;
+}
 
 }  // namespace mc::ui

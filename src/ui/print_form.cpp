@@ -28,7 +28,9 @@ namespace {
 
 constexpr const char* kPdfPrinter = "PDF file";
 
-QString Q(const std::string& s) { return QString::fromStdString(s); }
+QString Q(const std::string& s) {
+  return QString::fromStdString(s);
+}
 
 QComboBox* Combo(QWidget* parent, const char* name, const QStringList& items,
                  const std::string& current) {
@@ -106,13 +108,14 @@ PrintForm::PrintForm(Desktop& desktop, const std::string& output, QWidget* paren
   for (const QString& p : QPrinterInfo::availablePrinterNames()) printers << p;
   printers << kPdfPrinter;
   printer_ = Combo(pageBox, "cboPrinter", printers, loaded_.printerName);
-  quality_ = Combo(pageBox, "cboQuality",
-                   {"(Default Print Quality)", "Draft", "Low", "Medium", "High"},
-                   loaded_.printQuality);
+  quality_ =
+      Combo(pageBox, "cboQuality", {"(Default Print Quality)", "Draft", "Low", "Medium", "High"},
+            loaded_.printQuality);
   paper_ = Combo(pageBox, "cboPaperSize", {"A4", "A3", "A5", "Letter", "Legal"}, loaded_.paperSize);
   orientation_ = Combo(pageBox, "cboOrientation", {"Portrait", "Landscape"}, loaded_.orientation);
   bin_ = Combo(pageBox, "cboPaperBin", {"(Default Paper Bin)"}, loaded_.paperBin);
-  spacing_ = Combo(pageBox, "cboLineSpacing", {"Single", "1.5 Lines", "Double"}, loaded_.lineSpacing);
+  spacing_ =
+      Combo(pageBox, "cboLineSpacing", {"Single", "1.5 Lines", "Double"}, loaded_.lineSpacing);
   copies_ = new QSpinBox(pageBox);
   copies_->setObjectName("spnCopies");
   copies_->setRange(1, 99);
@@ -174,8 +177,8 @@ PrintForm::FontRow PrintForm::AddFontRow(QGridLayout* grid, int row, const QStri
   FontRow f;
   grid->addWidget(new QLabel(label, this), row, 0);
   if (bodyRow) {
-    f.name = Combo(this, "cboBodyFont",
-                   {Q(loaded_.bodyFixedFontName), Q(loaded_.bodyPropFontName)}, font.name);
+    f.name = Combo(this, "cboBodyFont", {Q(loaded_.bodyFixedFontName), Q(loaded_.bodyPropFontName)},
+                   font.name);
   } else {
     auto* c = new QFontComboBox(this);
     c->setCurrentFont(QFont(Q(font.name)));

@@ -37,11 +37,11 @@ QPageSize PageSizeOf(const std::string& name) {
 
 void ConfigurePrinter(QPrinter& printer, const PrintSettings& s) {
   const double mm = s.marginUnit == "inches" ? 25.4 : 10.0;
-  QPageLayout layout(PageSizeOf(s.paperSize),
-                     s.orientation == "Landscape" ? QPageLayout::Landscape : QPageLayout::Portrait,
-                     QMarginsF(s.marginLeft * mm, s.marginTop * mm, s.marginRight * mm,
-                               s.marginBottom * mm),
-                     QPageLayout::Millimeter);
+  QPageLayout layout(
+      PageSizeOf(s.paperSize),
+      s.orientation == "Landscape" ? QPageLayout::Landscape : QPageLayout::Portrait,
+      QMarginsF(s.marginLeft * mm, s.marginTop * mm, s.marginRight * mm, s.marginBottom * mm),
+      QPageLayout::Millimeter);
   printer.setPageLayout(layout);
   printer.setCopyCount(s.copies > 0 ? s.copies : 1);
   if (s.printQuality == "Draft" || s.printQuality == "Low") printer.setResolution(150);

@@ -9,7 +9,9 @@ namespace mc::ui {
 
 namespace {
 
-QString Q(std::string_view s) { return QString::fromUtf8(s.data(), static_cast<int>(s.size())); }
+QString Q(std::string_view s) {
+  return QString::fromUtf8(s.data(), static_cast<int>(s.size()));
+}
 
 QMessageBox::Icon IconOf(std::string_view caption) {
   if (caption == kErrorDetected) return QMessageBox::Warning;
@@ -20,7 +22,9 @@ QMessageBox::Icon IconOf(std::string_view caption) {
 
 }  // namespace
 
-QWidget* DialogParent() { return QApplication::activeWindow(); }
+QWidget* DialogParent() {
+  return QApplication::activeWindow();
+}
 
 void QtMessageSink::Show(std::string_view caption, std::string_view text) {
   // A long calculation may have set the busy cursor.

@@ -100,8 +100,8 @@ void ScreenForm::ToggleEnlarged() {
     setGeometry(avail.left() + (avail.width() - width) / 2, geometry().top(), width,
                 geometry().height());
   } else {
-    setGeometry(avail.left() + (avail.width() - normalGeometry_.width()) / 2,
-                normalGeometry_.top(), normalGeometry_.width(), normalGeometry_.height());
+    setGeometry(avail.left() + (avail.width() - normalGeometry_.width()) / 2, normalGeometry_.top(),
+                normalGeometry_.width(), normalGeometry_.height());
   }
   enlarged_ = !enlarged_;
 }

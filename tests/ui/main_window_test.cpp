@@ -1,0 +1,122 @@
+#include "ui/main_window.h"
+
+#include "qstring_printer.h"
+
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QTest>
+#include <QTimer>
+
+#include "core/ini_file.h"
+#include "support/test_program.h"
+#include "ui/output_box.h"
+
+namespace mc::ui {
+namespace {
+
+class MainWindowTest : public ::testing::Test {
+ protected:
+  MainWindowTest() : p(true, {2026, 11, 23, 23, 59, 50, 0}) {}
+  void Open() {
+    p.Start();
+    desktop = std::make_unique<Desktop>(p.ctx);
+    window = std::make_unique<MainWindow>(*desktop);
+    window->Load();
+    window->Timer()->stop();  // the tests tick by hand
+  }
+  QString Box(const char* name) { return window->findChild<QLineEdit*>(name)->text(); }
+
+  test::TestProgram p;
+  std::unique_ptr<Desktop> desktop;
+  std::unique_ptr<MainWindow> window;
+};
+
+TEST_F(MainWindowTest, TicksAcrossMidnight) {
+  Open();
+  EXPECT_EQ(Box("Text5"), "London, England UK");
+  EXPECT_EQ(Box("Text2"), "Mon Nov 23");
+  EXPECT_EQ(Box("Text3"), "23:59:50");
+  EXPECT_EQ(Box("Text4"), "Julian Day 2461368.4999");
+  p.clock.Advance(10000);
+  window->Tick();
+  EXPECT_EQ(Box("Text2"), "Tue Nov 24");
+  EXPECT_EQ(Box("Text3"), "00:00:00");
+  EXPECT_EQ(Box("Text4"), "Julian Day 2461368.5000");
+}
+
+TEST_F(MainWindowTest, FollowsTheDisplayOptions) {
+  UpdateIniFile(p.ctx, 0, "Show 24-Hour Clock", "No");
+  UpdateIniFile(p.ctx, 0, "Show Seconds", "No");
+  UpdateIniFile(p.ctx, 0, "Show Year", "Yes");
+  UpdateIniFile(p.ctx, 0, "Show Julian Day", "No");
+  p.clock.Set({2026, 11, 15, 13, 5, 9, 0});
+  Open();
+  EXPECT_EQ(Box("Text3"), "01:05 PM");
+  EXPECT_EQ(Box("Text2"), "Sun Nov 15 2026");
+  EXPECT_TRUE(window->findChild<QLineEdit*>("Text4")->isHidden());
+}
+
+TEST_F(MainWindowTest, MenusAndFavourites) {
+  UpdateIniFile(p.ctx, 1, "Show Menu Item 7", "No");
+  UpdateIniFile(p.ctx, 1, "Show Menu Item 27", "Yes");
+  Open();
+  const QList<QAction*> bar = window->menuBar()->actions();
+  QStringList captions;
+  for (QAction* a : bar) captions << a->text();
+  EXPECT_EQ(captions,
+            (QStringList{"&File", "Fa&vourites", "&Calendars", "&Dates", "&Time", "&Reminders",
+                         "&Maths Utilities", "Other &Utilities", "&Options", "&Help"}));
+  EXPECT_FALSE(window->ActionNamed("muFav7")->isVisible());
+  EXPECT_TRUE(window->ActionNamed("muFav27")->isVisible());
+  EXPECT_TRUE(window->ActionNamed("muFav0")->isVisible());
+  EXPECT_EQ(window->ActionNamed("muFav27")->text(), "Quick Notes");
+  EXPECT_TRUE(window->ActionNamed("muSave")->isEnabled());
+  UpdateIniFile(p.ctx, 1, "Show Favourites Menu", "No");
+  Open();
+  EXPECT_FALSE(window->FavouritesMenu()->menuAction()->isVisible());
+}
+
+TEST_F(MainWindowTest, SavesTheOutputLineByLine) {
+  Open();
+  window->Output()->SetReport("*** List of Reminders ***\r\nline two\r\n");
+  desktop->saveFileChooser = [&] { return QString::fromStdString(p.File("out.txt").string()); };
+  window->ActionNamed("muSave")->trigger();
+  EXPECT_EQ(p.Read("out.txt"), "*** List of Reminders ***\r\nline two\r\n");
+  EXPECT_EQ(p.sink.Last(), "Output successfully saved as file " + p.File("out.txt").string() + ".");
+  desktop->saveFileChooser = [] { return QString(); };  // cancelled: nothing at all
+  p.sink.Clear();
+  window->ActionNamed("muSave")->trigger();
+  EXPECT_TRUE(p.sink.messages.empty());
+}
+
+TEST_F(MainWindowTest, OutputBoxKeysFindAndEnlarge) {
+  Open();
+  OutputBox* box = window->Output();
+  box->SetReport("alpha beta\r\nAlpha gamma\r\n");
+  EXPECT_TRUE(box->Find("alpha", false, true));
+  EXPECT_EQ(box->textCursor().selectionStart(), 0);
+  QTest::keyClick(box, Qt::Key_F3);
+  EXPECT_EQ(box->textCursor().selectionStart(), 11);
+  QTest::keyClick(box, Qt::Key_F3);
+  EXPECT_EQ(p.sink.Last(), "No more occurrences of text.");
+  EXPECT_FALSE(box->Find("ALPHA", true, true));
+  EXPECT_EQ(p.sink.Last(), "Text not found.");
+  EXPECT_EQ(p.sink.messages.back().caption, "Sorry!");
+  p.sink.Clear();
+  EXPECT_FALSE(box->Find("   ", false, true));  // blanks only: no search at all
+  EXPECT_TRUE(p.sink.messages.empty());
+
+  QLabel* note = window->findChild<QLabel*>("Label8");
+  QTest::keyClick(box, Qt::Key_F11);
+  EXPECT_EQ(note->text(), "Press F11 to return to the normal view of the output.");
+  QTest::keyClick(box, Qt::Key_F11);
+  EXPECT_EQ(note->text(), "Press F11 for an enlarged view of the output.");
+}
+
+}  // namespace
+}  // namespace mc::ui
