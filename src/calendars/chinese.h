@@ -33,6 +33,7 @@ struct NewMoonDays {
   int countToSolstice = 0;  // how many of them fall on or before the second solstice
   JD solsticeBefore = 0;    // the day of the winter solstice of G - 1
   JD solsticeAfter = 0;     // and of G
+  bool operator==(const NewMoonDays&) const = default;
 };
 NewMoonDays NewMoonsOfYear(CalType type, int gregorianYear);
 
