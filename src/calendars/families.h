@@ -6,5 +6,7 @@
 namespace mc {
 
 void RegisterGregorianRules(RulesTable& table);
+void RegisterAstroPersianRules(RulesTable& table);
+void RegisterChineseRules(RulesTable& table);
 
 }  // namespace mc

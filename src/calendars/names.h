@@ -82,6 +82,46 @@ inline constexpr NameList<13> kParsiMonths = {
     "",      "Fravardin", "Ardibehest", "Khordad", "Tir",    "Amardad",     "Shehrevar",
     "Meher", "Avan",      "Adar",       "Dae",     "Bahman", "Aspandarmad", "Epagomenai"};
 
+// Chinese and Vietnamese calendars: the ten stems, the twelve branches with
+// their animals (padded to one width), the twelve major solar terms from
+// Great Cold to the Winter Solstice, and the weekdays.
+inline constexpr NameList<10> kChineseStems = {
+    "", "Jia", "Yi", "Bing", "Ding", "Wù", "Ji", "Geng", "Xin", "Rén", "Gui"};
+inline constexpr NameList<12> kChineseBranches = {
+    "",           "Zi   Rat",   "Chou Ox",     "Yín  Tiger", "Mao  Hare",   "Chén Dragon",
+    "Sì   Snake", "Wu   Horse", "Wèi  Sheep",  "Shen Monkey", "Yu   Rooster", "Xu   Dog",
+    "Hai  Pig"};
+inline constexpr NameList<12> kChineseSolarTerms = {
+    "",
+    "Dahan         Great Cold        ",
+    "Yushui        Rain Water        ",
+    "Chunfen       Spring Equinox    ",
+    "Guyu          Great Rain        ",
+    "Xiaoman       Grain Full        ",
+    "Xiazhi        Summer Solstice   ",
+    "Dashu         Great Heat        ",
+    "Chushu        Limit of Heat     ",
+    "Qiufen        Autumnal Equinox  ",
+    "Shuangjiang   Descent of Frost  ",
+    "Xiaoxue       Slight Snow       ",
+    "Dongzhi       Winter Solstice   "};
+inline constexpr NameList<7> kChineseWeekdays = {
+    "", "Xingqiri", "Xingqiyi", "Xingyier", "Xingqisan", "Xinqisi", "Xingqiwu", "Xingqiliu"};
+inline constexpr NameList<10> kVietnameseStems = {
+    "", "Giáp", "Ât", "Binh", "Õinh", "Mâ.u", "Ký", "Canh", "Tân", "Nhâm", "Quí"};
+inline constexpr NameList<12> kVietnameseBranches = {
+    "",           "Tý   Rat",   "Sù'u Buffalo", "D'ân Tiger",  "Mão  Cat",     "Thin Dragon",
+    "Ty   Snake", "Ngo. Horse", "Mùi  Goat",    "Thân Monkey", "Dâ.u Rooster", "Tuât Dog",
+    "Ho:i Pig"};
+// The Vietnamese names in plain letters. These forms are the program's own
+// (Ât becomes A't), not what PlainLetters() would make of the accented ones.
+inline constexpr NameList<10> kVietnameseStemsPlain = {
+    "", "Giap", "A't", "Binh", "Oinh", "Ma.u", "Ky", "Canh", "Tan", "Nham", "Qui"};
+inline constexpr NameList<12> kVietnameseBranchesPlain = {
+    "",           "Ty   Rat",   "Su'u Buffalo", "D'an Tiger",  "Mao  Cat",     "Thin Dragon",
+    "Ty   Snake", "Ngo. Horse", "Mui  Goat",    "Than Monkey", "Da.u Rooster", "Tuât Dog",
+    "Ho:i Pig"};
+
 // The same text with accented Latin letters replaced by their plain forms
 // ("Vendémiaire" -> "Vendemiaire", "Çarsamba" -> "Carsamba").
 std::string PlainLetters(std::string_view text);

@@ -10,6 +10,8 @@ const RulesTable& AllRules() {
   static const RulesTable table = [] {
     RulesTable t{};
     RegisterGregorianRules(t);
+    RegisterAstroPersianRules(t);
+    RegisterChineseRules(t);
     return t;
   }();
   return table;
