@@ -7,6 +7,7 @@
 #include "core/ini_file.h"
 #include "core/number_format.h"
 #include "core/text_util.h"
+#include "timeplace/ephemeris.h"
 
 namespace mc {
 
@@ -50,6 +51,14 @@ std::string JulianDayText(double julianDay) {
   return "Julian Day " + FormatWithMask(julianDay, "########.0000");
 }
 
+std::string SunStatusText(const SettingsBlock& s, const LocalDateTime& now) {
+  std::string rise, set;
+  float zone = s.homeTimeZone + (s.homeDSTState == "On" ? 1.0f : 0.0f);
+  SunRiseSet(now.day, now.month, now.year, s.homeLatitude, s.homeLongitude, zone, rise, set);
+  if (StartsWith(rise, "Sun up") || StartsWith(rise, "Sun down")) return rise;
+  return rise + "; " + ToLower(set);
+}
+
 std::string FormatElapsed(long seconds, int mode) {
   char buf[48];
   switch (mode) {
@@ -86,6 +95,7 @@ MainScreenModel::Tick MainScreenModel::OnTick(const LocalDateTime& now) {
   }
   if (s.showJulianDay == "Yes")
     t.julianDayText = JulianDayText(JulianDayOfMoment(now, s.homeZoneOffset));
+  t.sunText = SunStatusText(s, now);
   return t;
 }
 

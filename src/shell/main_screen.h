@@ -24,6 +24,11 @@ double JulianDayOfMoment(const LocalDateTime& now, double zoneOffsetHours);
 // "Julian Day 2461368.1042".
 std::string JulianDayText(double julianDay);
 
+// The sun status box: today's sunrise and sunset at the home place, with an
+// hour more of zone while summer time is on: "Sunrise 07:31; sunset 16:02", or
+// "Sun up all day" / "Sun down all day" alone.
+std::string SunStatusText(const SettingsBlock& settings, const LocalDateTime& now);
+
 // Seconds as the countdown shows them: mode 0 the number, 1 "m:ss", 2 "h:mm:ss".
 std::string FormatElapsed(long seconds, int mode);
 
@@ -40,6 +45,7 @@ class MainScreenModel {
     std::string clockText;
     std::optional<std::string> dateText;       // only when it differs from the last one shown
     std::optional<std::string> julianDayText;  // when the Julian Day box is shown
+    std::string sunText;
   };
   Tick OnTick(const LocalDateTime& now);
 

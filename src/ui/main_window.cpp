@@ -209,6 +209,7 @@ void MainWindow::Tick() {
   if (t.dateText) date_->setText(Q(*t.dateText));
   julianDay_->setVisible(t.julianDayText.has_value());
   if (t.julianDayText) julianDay_->setText(Q(*t.julianDayText));
+  if (sun_->text() != Q(t.sunText)) sun_->setText(Q(t.sunText));
 }
 
 void MainWindow::showEvent(QShowEvent* event) {

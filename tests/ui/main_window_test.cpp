@@ -42,6 +42,7 @@ TEST_F(MainWindowTest, TicksAcrossMidnight) {
   EXPECT_EQ(Box("Text2"), "Mon Nov 23");
   EXPECT_EQ(Box("Text3"), "23:59:50");
   EXPECT_EQ(Box("Text4"), "Julian Day 2461368.4999");
+  EXPECT_EQ(Box("Text6"), "Sunrise 07:31; sunset 16:01");
   p.clock.Advance(10000);
   window->Tick();
   EXPECT_EQ(Box("Text2"), "Tue Nov 24");
