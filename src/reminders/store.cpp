@@ -424,17 +424,17 @@ bool CheckReminderStore(Context& ctx) {
   return store.Check();
 }
 
-void CompactReminders(Context& ctx) {
-  if (!CheckReminderStore(ctx)) return;
+bool CompactReminders(Context& ctx) {
+  if (!CheckReminderStore(ctx)) return false;
   ReminderStore store(ctx);
-  if (!store.Open()) return;
+  if (!store.Open()) return false;
   if (store.NoRecord()) {
     if (std::filesystem::exists(ctx.FilePath(kPerson))) {
       store.RemovePersonFile();
       store.Commit();
     }
     ctx.sink().Show(kInformation, "No reminders have yet been defined.");
-    return;
+    return false;
   }
   std::vector<int> order = store.ActiveSlots();
   std::vector<FileChange> changes;
@@ -454,8 +454,9 @@ void CompactReminders(Context& ctx) {
     changes.push_back({std::string(kPerson), std::move(person), "newfile.dat"});
     changes.push_back({std::string(kMercod), EncodeHeader({n, 1, 0}), ""});
   }
-  if (!CommitReminderFiles(ctx, changes)) return;
+  if (!CommitReminderFiles(ctx, changes)) return false;
   ctx.sink().Show(kSuccess, "Reminders file successfully compacted.");
+  return true;
 }
 
 namespace {

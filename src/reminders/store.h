@@ -150,7 +150,7 @@ InsertOutcome InsertReminder(Context& ctx, int monthDay, int year, std::string_v
 bool CheckReminderStore(Context& ctx);
 
 // Rewrites the store without gaps, in list order; Head 1, no free slots.
-void CompactReminders(Context& ctx);
+bool CompactReminders(Context& ctx);
 
 // The diagnostic listing of the slots, or "" when a file is missing.
 std::string PrintReminderStructures(Context& ctx);
