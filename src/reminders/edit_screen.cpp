@@ -52,7 +52,7 @@ void EditRemindersScreen::Refresh() {
                                     ""};
   rows_.resize(lines.size());
   ReminderStore store(ctx_);
-  if (store.Open() && store.Finding() == 0) {
+  if (store.Open() && !store.NoRecord() && store.Check()) {
     for (int s : store.ActiveSlots()) {
       const ReminderSlot& slot = store.Slot(s);
       Row r{s, slot.Day(), slot.Month(), slot.year, slot.Text()};

@@ -404,10 +404,10 @@ bool ReminderStore::Commit() {
 
 InsertOutcome InsertReminder(Context& ctx, int monthDay, int year, std::string_view message) {
   ReminderStore store(ctx);
-  if (!store.Open() || !store.Check()) return InsertOutcome::StoreFull;
+  if (!store.Open() || (!store.NoRecord() && !store.Check())) return InsertOutcome::Failed;
   InsertOutcome r = store.Insert(monthDay, year, message);
   if (r == InsertOutcome::StoreFull) ShowRunTimeError(ctx, kOverflow);
-  if (!store.Commit()) return InsertOutcome::StoreFull;
+  if (!store.Commit()) return InsertOutcome::Failed;
   return r;
 }
 

@@ -72,6 +72,7 @@ enum class InsertOutcome {
   AlreadyCovered,  // the same reminder, or an every-year one with its text, exists
   Widened,         // a dated reminder with its text became an every-year one
   StoreFull,       // no slot number is left
+  Failed,          // the store is damaged or could not be written (after the message)
 };
 
 class ReminderStore {

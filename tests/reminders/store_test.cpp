@@ -132,7 +132,7 @@ TEST(ReminderStore, CheckReportsEachFindingAndNeverChangesADamagedStore) {
     EXPECT_FALSE(CheckReminderStore(p.ctx)) << c.finding;
     EXPECT_EQ(p.sink.Last(), c.finding);
     p.sink.Clear();
-    EXPECT_EQ(InsertReminder(p.ctx, 105, 2026, "new"), InsertOutcome::StoreFull);
+    EXPECT_EQ(InsertReminder(p.ctx, 105, 2026, "new"), InsertOutcome::Failed);
     EXPECT_EQ(p.sink.Last(), c.finding);
     EXPECT_EQ(p.Read("person.dat"), before);
   }
