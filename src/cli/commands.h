@@ -37,5 +37,6 @@ inline constexpr int kExitSetup = 2;    // no program folder or no mercod.ini
 inline constexpr int kExitUsage = -1;
 
 std::vector<CliCommand> CalendarCommands();
+std::vector<CliCommand> ReminderCommands();
 
 }  // namespace mc

@@ -4,6 +4,7 @@
 
 #include "core/ini_file.h"
 #include "core/text_util.h"
+#include "reminders/store.h"
 
 namespace mc {
 
@@ -286,6 +287,7 @@ void ApplyStep(Context& ctx, int to) {
           .Key(0, "Processor Type", "32-bit")
           .Key(0, "Factorisation Threads", "1")
           .Key(0, "PEYR File Creation Year", std::to_string(ctx.Now().year));
+      BuildPeyrFile(ctx);
       break;
     case 180:
       s.Section(79, "Revolutionary Time")

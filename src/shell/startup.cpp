@@ -8,6 +8,7 @@
 #include "core/number_format.h"
 #include "core/safe_file.h"
 #include "core/text_util.h"
+#include "reminders/store.h"
 #include "shell/ini_upgrade.h"
 
 namespace mc {
@@ -120,6 +121,9 @@ void SetBasicData(Context& ctx, const StartOptions& options) {
 
   ReadAlarmBlock(ctx);
   ctx.Trace("SetBasicData. Global data successfully read from file mercod.ini.");
+
+  // Reminder messages were widened from 40 to 60 characters once.
+  if (s.remLengthUpdated == "No") WidenReminderMessages(ctx);
 
   ctx.Trace("SetBasicData. Global values successfully defined.");
   ctx.Trace("SetBasicData. Remaining global values successfully defined.");
