@@ -10,6 +10,7 @@
 #include <QMenuBar>
 #include <QScreen>
 #include <QSystemTrayIcon>
+#include <QTextCursor>
 #include <QTimer>
 
 #include "core/safe_file.h"
@@ -17,6 +18,7 @@
 #include "ui/output_box.h"
 #include "ui/screen_colours.h"
 #include "ui/screen_form.h"
+#include "ui/sound.h"
 
 namespace mc::ui {
 
@@ -77,6 +79,9 @@ MainWindow::MainWindow(Desktop& desktop)
   connect(output_, &OutputBox::helpRequested, this,
           [this] { desktop_.OpenHelpFile("readme.pdf"); });
 
+  connect(output_, &OutputBox::moveRequested, this, &MainWindow::MoveReminder);
+  sound_ = new Sound(this);
+
   BuildMenus();
   timer_ = new QTimer(this);
   timer_->setInterval(1000);
@@ -85,11 +90,13 @@ MainWindow::MainWindow(Desktop& desktop)
 }
 
 void MainWindow::Load() {
-  output_->setFont(DisplayFixedFont(ctx_.settings, 1));
+  SetFontMode("FW");
   place_->setText(Q(model_.PlaceText()));
-  output_->SetReport("");
-  output_->setFont(DisplayPropFont(ctx_.settings));
-  output_->SetReport("No personal reminders currently defined.");
+  lamp_->setVisible(false);
+  ReminderLoadResult start = ReminderLoadReport(ctx_);
+  if (start.leaveLoad) return;
+  ShowReminderReport(start.report);
+  Signal(start.signal);
   ctx_.Trace("Main form load. Favourite items about to be handled.");
   ApplyFavourites();
   ctx_.Trace("Main form load. Favourite items have been handled.");
@@ -204,12 +211,73 @@ void MainWindow::Tick() {
     active->Tick(now);
     return;
   }
+  ReminderTickResult reminders = ReminderDayCheck(ctx_, output_->Report(), ctx_.settings.alarm.set);
+  if (reminders.rebuilt) {
+    if (reminders.replaceOutput) ShowReminderReport(reminders.report);
+    lamp_colour_ = reminders.report.lamp;
+    Signal(reminders.signal);
+  }
   MainScreenModel::Tick t = model_.OnTick(now);
   clock_->setText(Q(t.clockText));
   if (t.dateText) date_->setText(Q(*t.dateText));
   julianDay_->setVisible(t.julianDayText.has_value());
   if (t.julianDayText) julianDay_->setText(Q(*t.julianDayText));
   if (sun_->text() != Q(t.sunText)) sun_->setText(Q(t.sunText));
+}
+
+void MainWindow::SetFontMode(std::string_view mode) {
+  const SettingsBlock& s = ctx_.settings;
+  fontMode_ = std::string(mode);
+  if (mode == "PW")
+    output_->setFont(DisplayPropFont(s));
+  else if (mode == "UFW")
+    output_->setFont(FontOf(s.userFixedFont, 1, true));
+  else if (mode == "UPW")
+    output_->setFont(FontOf(s.userPropFont));
+  else
+    output_->setFont(DisplayFixedFont(s, 1));
+}
+
+void MainWindow::ShowReminderReport(const ReminderReport& report) {
+  if (report.text == kReportError) return;
+  SetFontMode(ReportFontMode(report));
+  output_->SetReport(report.text);
+  lamp_colour_ = report.lamp;
+  lamp_->setVisible(report.lamp != LampColour::Hidden);
+  QPalette p = lamp_->palette();
+  p.setColor(QPalette::WindowText,
+             report.lamp == LampColour::Red ? QColor(255, 0, 0) : QColor(255, 197, 138));
+  lamp_->setPalette(p);
+}
+
+void MainWindow::Signal(const ReminderSignal& signal) {
+  sound_->Play(Q(ctx_.FilePath("reminder.wav").string()), signal.soundPlays);
+  if (!signal.notice.empty()) ctx_.sink().Show(kInformation, signal.notice);
+}
+
+void MainWindow::ListReminders() {
+  ShowReminderReport(BuildReminderReport(ctx_));
+}
+
+void MainWindow::ListOutOfDate() {
+  if (auto listing = OutOfDateListing(ctx_)) {
+    SetFontMode("UFW");
+    output_->SetReport(*listing);
+  }
+}
+
+void MainWindow::MoveReminder(bool up) {
+  const std::size_t caret = output_->textCursor().position();
+  auto moved = MoveReminderInList(ctx_, output_->Report(), caret, up);
+  if (!moved) return;
+  ShowReminderReport(moved->report);
+  QTextCursor c = output_->textCursor();
+  c.setPosition(static_cast<int>(moved->caret));
+  output_->setTextCursor(c);
+}
+
+void MainWindow::ReminderScreenLeft() {
+  if (LeaveReminderScreen(ctx_, output_->Report())) ListReminders();
 }
 
 void MainWindow::showEvent(QShowEvent* event) {
@@ -237,16 +305,24 @@ void MainWindow::ToggleEnlarged() {
 }
 
 void MainWindow::changeEvent(QEvent* event) {
-  if (event->type() == QEvent::WindowStateChange && isMinimized() &&
-      ctx_.settings.minimiseToTray == "Yes" && QSystemTrayIcon::isSystemTrayAvailable()) {
-    QTimer::singleShot(0, this, &MainWindow::ToTray);
+  if (event->type() == QEvent::WindowStateChange) {
+    // Minimised, the icon shows the lamp: red for a reminder today, light
+    // orange for one near; back to the plain sun at normal size.
+    const char* icon = !isMinimized()                            ? "sun.ico"
+                       : lamp_colour_ == LampColour::Red         ? "sun1.ico"
+                       : lamp_colour_ == LampColour::LightOrange ? "sun2.ico"
+                                                                 : "sun.ico";
+    setWindowIcon(QIcon(Q(ctx_.FilePath(icon).string())));
+    if (isMinimized() && ctx_.settings.minimiseToTray == "Yes" &&
+        QSystemTrayIcon::isSystemTrayAvailable())
+      QTimer::singleShot(0, this, &MainWindow::ToTray);
   }
   QMainWindow::changeEvent(event);
 }
 
 void MainWindow::ToTray() {
   if (!tray_) {
-    tray_ = new QSystemTrayIcon(windowIcon(), this);
+    tray_ = new QSystemTrayIcon(this);
     tray_->setToolTip("Meridian Codex");
     auto* menu = new QMenu(this);
     menu->setObjectName("mnuPopup");
@@ -257,12 +333,14 @@ void MainWindow::ToTray() {
       if (r == QSystemTrayIcon::DoubleClick || r == QSystemTrayIcon::Trigger) FromTray();
     });
   }
+  tray_->setIcon(windowIcon());
   tray_->show();
   hide();
 }
 
 void MainWindow::FromTray() {
   if (tray_) tray_->hide();
+  setWindowIcon(QIcon(Q(ctx_.FilePath("sun.ico").string())));
   showNormal();
   raise();
   activateWindow();

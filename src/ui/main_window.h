@@ -6,6 +6,7 @@
 #include <QMainWindow>
 #include <map>
 
+#include "reminders/report.h"
 #include "shell/main_screen.h"
 #include "ui/desktop.h"
 #include "ui/menus.h"
@@ -35,6 +36,13 @@ class MainWindow : public QMainWindow {
   QAction* ActionNamed(const QString& name) const;
   QMenu* FavouritesMenu() const { return favourites_; }
   QTimer* Timer() const { return timer_; }
+  class Sound* Sounds() const {
+    return sound_;
+  }
+  // The font the output box is to have: "FW", "PW", "UFW" or "UPW".
+  void SetFontMode(std::string_view mode);
+  // After a reminder screen: rebuilds the list when it changed.
+  void ReminderScreenLeft();
 
  protected:
   void changeEvent(QEvent* event) override;
@@ -48,6 +56,11 @@ class MainWindow : public QMainWindow {
   bool Implemented(const MenuEntry& entry) const;
   void ToggleEnlarged();
   void ToTray();
+  void ShowReminderReport(const ReminderReport& report);
+  void Signal(const ReminderSignal& signal);
+  void ListReminders();
+  void ListOutOfDate();
+  void MoveReminder(bool up);
   void FromTray();
 
   Desktop& desktop_;
@@ -60,6 +73,9 @@ class MainWindow : public QMainWindow {
   std::map<QString, QAction*> actions_;
   QTimer* timer_;
   QSystemTrayIcon* tray_ = nullptr;
+  class Sound* sound_;
+  LampColour lamp_colour_ = LampColour::Hidden;
+  std::string fontMode_ = "FW";
   QRect normalGeometry_;
   bool enlarged_ = false;
 };

@@ -66,6 +66,10 @@ void OutputBox::keyPressEvent(QKeyEvent* event) {
       emit findRequested();
       return;
     }
+    if (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down) {
+      emit moveRequested(event->key() == Qt::Key_Up);
+      return;
+    }
     if (event->key() == Qt::Key_A) {
       selectAll();
       return;

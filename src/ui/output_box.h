@@ -29,6 +29,8 @@ class OutputBox : public QPlainTextEdit {
   void enlargeToggled();
   void findRequested();
   void helpRequested();
+  // Ctrl+Up / Ctrl+Down: move the line at the caret within its day.
+  void moveRequested(bool up);
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;

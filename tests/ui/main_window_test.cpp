@@ -13,8 +13,10 @@
 #include <QTimer>
 
 #include "core/ini_file.h"
+#include "reminders/store.h"
 #include "support/test_program.h"
 #include "ui/output_box.h"
+#include "ui/sound.h"
 
 namespace mc::ui {
 namespace {
@@ -48,6 +50,28 @@ TEST_F(MainWindowTest, TicksAcrossMidnight) {
   EXPECT_EQ(Box("Text2"), "Tue Nov 24");
   EXPECT_EQ(Box("Text3"), "00:00:00");
   EXPECT_EQ(Box("Text4"), "Julian Day 2461368.5000");
+}
+
+TEST_F(MainWindowTest, RemindersAtLoadAndAtTheFirstTickOfANewDay) {
+  qputenv("CODEX_SILENT", "1");
+  InsertReminder(p.ctx, 1123, 2026, "Call Anna");
+  InsertReminder(p.ctx, 1125, 2026, "Dentist");
+  Open();
+  QLabel* lamp = window->findChild<QLabel*>("Text7");
+  EXPECT_TRUE(window->Output()->Report().starts_with("*** List of Reminders ***"));
+  EXPECT_NE(window->Output()->Report().find("Call Anna"), std::string::npos);
+  EXPECT_FALSE(lamp->isHidden());
+  EXPECT_EQ(window->Sounds()->Requested(), 2);  // a reminder today: twice
+  p.sink.Clear();
+  p.clock.Advance(11000);  // just past midnight: today's reminder is gone, the next is two days off
+  window->Tick();
+  EXPECT_EQ(window->Output()->Report().find("Call Anna"), std::string::npos);
+  EXPECT_NE(window->Output()->Report().find("Dentist"), std::string::npos);
+  EXPECT_EQ(window->Sounds()->Requested(), 3);
+  EXPECT_EQ(p.sink.Last(), "One of your set reminders is imminent.");
+  p.sink.Clear();
+  window->Tick();  // the same day: nothing more
+  EXPECT_TRUE(p.sink.messages.empty());
 }
 
 TEST_F(MainWindowTest, FollowsTheDisplayOptions) {
