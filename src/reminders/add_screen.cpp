@@ -377,6 +377,14 @@ bool AddRemindersScreen::PasteIntoMessage(
   while (!(clip = readClipboard())) {
     if (!ctx_.sink().Ask(kWarning, "Can't open Clipboard. Try again?")) return false;
   }
+  // The message is one line: line breaks and tabs of the clipboard become blanks.
+  std::string flat;
+  for (std::size_t i = 0; i < clip->size(); ++i) {
+    const char c = (*clip)[i];
+    if (c == '\r' && i + 1 < clip->size() && (*clip)[i + 1] == '\n') continue;
+    flat += c == '\r' || c == '\n' || c == '\t' ? ' ' : c;
+  }
+  clip = std::move(flat);
   selectionStart = std::min(selectionStart, message.size());
   selectionLength = std::min(selectionLength, message.size() - selectionStart);
   const std::size_t kept = message.size() - selectionLength;

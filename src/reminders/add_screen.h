@@ -86,7 +86,7 @@ class AddRemindersScreen {
 
   // Paste into the message box at the selection. `readClipboard` gives the
   // clipboard's text, or nothing when it can't be opened (the user may try
-  // again). True when the message changed.
+  // again). Line breaks and tabs become blanks. True when the message changed.
   bool PasteIntoMessage(const std::function<std::optional<std::string>()>& readClipboard,
                         std::size_t selectionStart, std::size_t selectionLength);
 

@@ -125,6 +125,15 @@ void RemindersByMonthScreen::Fill() {
   }
 }
 
+std::array<std::string, 7> RemindersByMonthScreen::ColumnHeads() const {
+  static constexpr std::string_view kLetters = "SSMTWTFSS";  // from Saturday
+  const int startDay = ctx_.settings.startDay;
+  const std::size_t first = startDay == 0 ? 0 : startDay == 2 ? 2 : 1;
+  std::array<std::string, 7> heads;
+  for (std::size_t i = 0; i < 7; ++i) heads[i] = std::string(1, kLetters[first + i]);
+  return heads;
+}
+
 std::string RemindersByMonthScreen::GridText() const {
   const int year = Year();
   const std::string caption(kMonthNames[month_]);
@@ -132,10 +141,8 @@ std::string RemindersByMonthScreen::GridText() const {
   const int n = static_cast<int>(caption.size() + yearText.size() + 1);
   std::string text(static_cast<std::size_t>(std::max(0, (24 - n) / 2 + 1)), ' ');
   text += caption + " " + yearText + "\r\n\r\n";
-  const int startDay = ctx_.settings.startDay;
-  text += startDay == 0   ? "   S  S  M  T  W  T  F"
-          : startDay == 2 ? "   M  T  W  T  F  S  S"
-                          : "   S  M  T  W  T  F  S";
+  text += " ";
+  for (const std::string& head : ColumnHeads()) text += "  " + head;
   text += "\r\n ";
   if (cells_.empty()) return text;
   int column = cells_.front().column;

@@ -3,6 +3,7 @@
 // reminders; a double click opens Add Reminders for that date.
 #pragma once
 
+#include <array>
 #include <filesystem>
 #include <map>
 #include <string>
@@ -46,6 +47,9 @@ class RemindersByMonthScreen {
     bool today = false;
   };
   const std::vector<Cell>& Cells() const { return cells_; }
+  // The letters heading the seven columns, from the week's first day (Start
+  // Day 0 Saturday, 1 Sunday, 2 Monday).
+  std::array<std::string, 7> ColumnHeads() const;
   // The month as a text grid, with its heading and weekday letters.
   std::string GridText() const;
 

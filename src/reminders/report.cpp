@@ -302,6 +302,10 @@ ReminderTickResult ReminderDayCheck(Context& ctx, std::string_view outputText, b
   return r;
 }
 
+void EnterReminderScreen(Context& ctx) {
+  Reminders(ctx).remindersChanged = false;
+}
+
 bool LeaveReminderScreen(Context& ctx, std::string_view mainOutputText) {
   ReminderSession& s = Reminders(ctx);
   if (!s.remindersChanged) return false;

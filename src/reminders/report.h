@@ -73,6 +73,10 @@ struct ReminderTickResult {
 // main output box's text; `alarmSet` suppresses the notice.
 ReminderTickResult ReminderDayCheck(Context& ctx, std::string_view outputText, bool alarmSet);
 
+// Opening a reminder screen from the menus: RemindersChanged starts clear, so
+// that leaving tells whether this visit changed the store.
+void EnterReminderScreen(Context& ctx);
+
 // Leaving a reminder screen: clears RemindersChanged and says whether the
 // main screen's list must be rebuilt (it was changed and the box shows the
 // list or the no-reminders text).

@@ -13,6 +13,7 @@
 #include "reminders/add_screen.h"
 #include "reminders/report.h"
 #include "reminders/store.h"
+#include "reminders/store_files.h"
 
 namespace mc {
 
@@ -62,6 +63,12 @@ std::optional<Format> CheckFormat(Context& ctx, const FieldFormat& f) {
 
 bool Whole(double v) {
   return std::floor(v) == v;
+}
+
+// A file as the messages name it: its bare name in the program folder,
+// else its whole path.
+std::string NameInMessages(Context& ctx, const std::filesystem::path& file) {
+  return file.parent_path() == ctx.ExeFolder() ? file.filename().string() : file.string();
 }
 
 // One line of newrems.txt: the reminder, or the catalogue number of the
@@ -144,7 +151,20 @@ Parsed ParseImportLine(Context& ctx, std::string_view line, const Format& f) {
 
 }  // namespace
 
-bool ExportReminders(Context& ctx, const FieldFormat& format) {
+bool CheckFieldFormat(Context& ctx, const FieldFormat& format) {
+  return CheckFormat(ctx, format).has_value();
+}
+
+std::filesystem::path DefaultExportFile(Context& ctx) {
+  return ctx.FilePath("myrems.txt");
+}
+
+std::filesystem::path DefaultImportFile(Context& ctx) {
+  return ctx.FilePath("newrems.txt");
+}
+
+bool ExportReminders(Context& ctx, const FieldFormat& format, const std::filesystem::path& file) {
+  const std::filesystem::path target = file.empty() ? DefaultExportFile(ctx) : file;
   auto f = CheckFormat(ctx, format);
   if (!f) return false;
   ReminderStore store(ctx);
@@ -185,29 +205,32 @@ bool ExportReminders(Context& ctx, const FieldFormat& format) {
     ShowError(ctx, Err("All personal reminders have already been deleted."));
     return false;
   }
-  ctx.settings.lastFileOpened = "myrems.txt";
-  if (!WriteFileAtomically(ctx.FilePath("myrems.txt"), out)) {
+  const std::string name = NameInMessages(ctx, target);
+  ctx.settings.lastFileOpened = name;
+  if (!WriteFileAtomically(target, out)) {
     ShowRunTimeError(ctx, kPathFileAccess);
     return false;
   }
-  ctx.sink().Show(kSuccess, n == 1 ? "1 reminder has been successfully exported to file myrems.txt."
-                                   : std::to_string(n) +
-                                         " reminders have been successfully exported to file "
-                                         "myrems.txt.");
+  ctx.sink().Show(kSuccess, (n == 1 ? "1 reminder has" : std::to_string(n) + " reminders have") +
+                                " been successfully exported to file " + name + ".");
   return true;
 }
 
-bool ImportReminders(Context& ctx, const FieldFormat& format) {
-  if (!ctx.sink().Ask(kWarning,
-                      "Data will be imported from the file newrems.txt. Please confirm that you "
-                      "wish to continue."))
+bool ImportReminders(Context& ctx, const FieldFormat& format, const std::filesystem::path& file) {
+  const std::filesystem::path source = file.empty() ? DefaultImportFile(ctx) : file;
+  const std::string name = NameInMessages(ctx, source);
+  if (!ctx.sink().Ask(kWarning, "Data will be imported from the file " + name +
+                                    ". Please confirm that you wish to continue."))
     return false;
   auto f = CheckFormat(ctx, format);
   if (!f) return false;
-  ctx.settings.lastFileOpened = "newrems.txt";
-  auto content = ReadWholeFile(ctx.FilePath("newrems.txt"));
+  ctx.settings.lastFileOpened = name;
+  auto content = ReadWholeFile(source);
   if (!content) {
-    ShowError(ctx, Err("Missing reminder import file newrems.txt."));
+    if (source == DefaultImportFile(ctx))
+      ShowError(ctx, Err("Missing reminder import file newrems.txt."));
+    else
+      ShowRunTimeError(ctx, kFileNotFound);
     return false;
   }
   RemoveIfExists(ctx.FilePath("rejects.txt"));
@@ -271,7 +294,10 @@ void ReminderUtilitiesScreen::SetAudioSignal(bool on) {
 bool ReminderUtilitiesScreen::SetProcessFields(bool on, std::string_view mainOutputText) {
   ctx_.settings.processRemFields = on ? "Yes" : "No";
   UpdateIniFile(ctx_, 0, "Process Reminder Fields", ctx_.settings.processRemFields);
-  return StartsWith(mainOutputText, kReminderListTitle);
+  if (!StartsWith(mainOutputText, kReminderListTitle)) return false;
+  // The list's messages read differently now: it is rebuilt as the screen is left.
+  Reminders(ctx_).remindersChanged = true;
+  return true;
 }
 
 void ReminderUtilitiesScreen::Run() {
@@ -284,10 +310,10 @@ void ReminderUtilitiesScreen::Run() {
       CompactReminders(ctx_);
       break;
     case UtilityAction::Import:
-      ImportReminders(ctx_, format);
+      ImportReminders(ctx_, format, file);
       break;
     case UtilityAction::Export:
-      ExportReminders(ctx_, format);
+      ExportReminders(ctx_, format, file);
       break;
   }
 }

@@ -2,6 +2,7 @@
 // the diagnostic listing of the slots, and the two reminder switches.
 #pragma once
 
+#include <filesystem>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -25,13 +26,26 @@ inline constexpr std::string_view kFieldOrders[] = {"Choose field order", "day m
 inline constexpr std::string_view kSeparators[] = {
     "Comma ,", "Forward Slash /", "Hyphen -", "Semicolon ;", "Tab", "User Specified"};
 
-// Writes every reminder to myrems.txt (moving an old newrems.txt aside to
-// newrems.old). False after the message when nothing was written.
-bool ExportReminders(Context& ctx, const FieldFormat& format);
+// The field order and separator checked: "Field order not defined.",
+// "Field separator not defined.", "User specified separator missing.".
+bool CheckFieldFormat(Context& ctx, const FieldFormat& format);
 
-// Reads newrems.txt after asking; refused lines go to rejects.txt with
-// their reason. False when the user declined or nothing could be read.
-bool ImportReminders(Context& ctx, const FieldFormat& format);
+// The files of the program folder that export and import use unless the user
+// chooses others.
+std::filesystem::path DefaultExportFile(Context& ctx);  // myrems.txt
+std::filesystem::path DefaultImportFile(Context& ctx);  // newrems.txt
+
+// Writes every reminder to `file` (myrems.txt unless given), moving an old
+// newrems.txt aside to newrems.old. False after the message when nothing was
+// written.
+bool ExportReminders(Context& ctx, const FieldFormat& format,
+                     const std::filesystem::path& file = {});
+
+// Reads `file` (newrems.txt unless given) after asking; refused lines go to
+// rejects.txt with their reason. False when the user declined or nothing
+// could be read.
+bool ImportReminders(Context& ctx, const FieldFormat& format,
+                     const std::filesystem::path& file = {});
 
 enum class UtilityAction { PrintStructures, Compact, Import, Export };
 
@@ -43,12 +57,16 @@ class ReminderUtilitiesScreen {
   bool AudioSignal() const;
   bool ProcessFields() const;
   // A change is stored at once. SetProcessFields returns true when the main
-  // screen shows the list, which must then be rebuilt.
+  // screen shows the list, which must then be rebuilt: it marks the
+  // reminders as changed, so that leaving the screen rebuilds it.
   void SetAudioSignal(bool on);
   bool SetProcessFields(bool on, std::string_view mainOutputText);
 
   FieldFormat format;
   UtilityAction action = UtilityAction::PrintStructures;
+  // The file to import from or export to; empty for newrems.txt and
+  // myrems.txt in the program folder.
+  std::filesystem::path file;
 
   // The command: runs the chosen action.
   void Run();

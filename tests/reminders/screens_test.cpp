@@ -9,6 +9,7 @@
 #include "reminders/add_screen.h"
 #include "reminders/edit_screen.h"
 #include "reminders/month_screen.h"
+#include "reminders/report.h"
 #include "reminders/utilities_screen.h"
 
 namespace mc::test {
@@ -177,6 +178,12 @@ TEST(AddRemindersScreenTest, PasteIsCutToTheMessageField) {
       0, 0));
   EXPECT_EQ(tries, 2);
   EXPECT_EQ(p.sink.Last(), "Can't open Clipboard. Try again?");
+
+  // The message is one line: the clipboard's breaks and tabs become blanks.
+  s.message = "To: ";
+  EXPECT_TRUE(s.PasteIntoMessage(
+      [] { return std::optional<std::string>("Anna\r\nBob\nCarl\tDee"); }, 4, 0));
+  EXPECT_EQ(s.message, "To: Anna Bob Carl Dee");
 }
 
 TEST(EditRemindersScreenTest, UpdateAndDelete) {
@@ -275,6 +282,18 @@ TEST(RemindersByMonthScreenTest, MarksClicksAndDoubleClicks) {
   EXPECT_EQ(grid[2], "   S  M  T  W  T  F  S");
   EXPECT_EQ(grid[3], "   1  2  3  4  5  6  7");
   EXPECT_EQ(grid[7], "  29 30");
+  p.ctx.settings.startDay = 0;  // weeks from Saturday
+  m.Fill();
+  EXPECT_EQ(m.Cells()[0].column, 2);
+  grid = SplitLines(m.GridText());
+  EXPECT_EQ(grid[2], "   S  S  M  T  W  T  F");
+  EXPECT_EQ(grid[3], "      1  2  3  4  5  6");
+  p.ctx.settings.startDay = 2;  // from Monday
+  m.Fill();
+  EXPECT_EQ(SplitLines(m.GridText())[2], "   M  T  W  T  F  S  S");
+  EXPECT_EQ(m.Cells()[0].column, 7);
+  p.ctx.settings.startDay = 1;
+  m.Fill();
   std::string report = m.ReportText();
   EXPECT_TRUE(StartsWith(report, "*** Reminder List for Month ***\r\n"));
   EXPECT_NE(report.find("Wed  25 Nov 2026   Dentist\r\n"), std::string::npos);
@@ -311,6 +330,33 @@ TEST(ReminderUtilitiesTest, ExportImportRoundTripAddsNothing) {
   ASSERT_TRUE(ImportReminders(p.ctx, {"year month day message", "Semicolon ;", ""}));
   EXPECT_EQ(p.sink.Last(), "2 reminders have been successfully imported.");
   EXPECT_EQ(ListOf(p.ctx), before);
+}
+
+TEST(ReminderUtilitiesTest, FilesChosenByTheUserAreNamedInTheMessages) {
+  TestProgram p;
+  p.Start();
+  InsertReminder(p.ctx, 1125, 2026, "Dentist");
+  std::filesystem::create_directory(p.File("elsewhere"));
+  const auto out = p.File("elsewhere/mine.txt");
+  ASSERT_TRUE(ExportReminders(p.ctx, Slashes(), out));
+  EXPECT_EQ(p.sink.Last(),
+            "1 reminder has been successfully exported to file " + out.string() + ".");
+  EXPECT_EQ(p.Read("elsewhere/mine.txt"), "25/11/2026/Dentist\r\n");
+  EXPECT_FALSE(std::filesystem::exists(p.File("myrems.txt")));
+
+  const auto missing = p.File("elsewhere/none.txt");
+  p.sink.answers = {true};
+  EXPECT_FALSE(ImportReminders(p.ctx, Slashes(), missing));
+  EXPECT_EQ(p.sink.messages[p.sink.messages.size() - 2].text,
+            "Data will be imported from the file " + missing.string() +
+                ". Please confirm that you wish to continue.");
+  EXPECT_EQ(p.sink.Last(), "File " + missing.string() + " not found error (ProcNum = 0).");
+
+  p.Write("elsewhere/mine.txt", "1/12/2026/Party\r\n");
+  p.sink.answers = {true};
+  ASSERT_TRUE(ImportReminders(p.ctx, Slashes(), p.File("elsewhere/mine.txt")));
+  EXPECT_EQ(p.sink.Last(), "1 reminder has been successfully imported.");
+  EXPECT_EQ(ListOf(p.ctx).size(), 2u);
 }
 
 TEST(ReminderUtilitiesTest, ImportRefusesBadLinesIntoRejects) {
@@ -380,7 +426,10 @@ TEST(ReminderUtilitiesTest, SwitchesAndCommands) {
   EXPECT_EQ(ReadIniFile(p.ctx, 0, "Reminder Audio Signal"), "Off");
   EXPECT_TRUE(u.SetProcessFields(false, "*** List of Reminders ***\r\n"));
   EXPECT_EQ(ReadIniFile(p.ctx, 0, "Process Reminder Fields"), "No");
+  // The list is rebuilt as the screen is left.
+  EXPECT_TRUE(LeaveReminderScreen(p.ctx, "*** List of Reminders ***\r\n"));
   EXPECT_FALSE(u.SetProcessFields(true, "other"));
+  EXPECT_FALSE(Reminders(p.ctx).remindersChanged);
   InsertReminder(p.ctx, 1125, 2026, "Dentist");
   u.action = UtilityAction::PrintStructures;
   u.Run();
