@@ -149,10 +149,11 @@ void ConvertMargins(PrintSettings& s, std::string_view newUnit) {
 
 bool IsTableLikeOutput(std::string_view firstLine) {
   static constexpr std::string_view kTables[] = {
-      "*** About My Location ***", "*** Factor Calculator ***", "*** Magic Square",
-      "*** New Year's Days",       "*** Date Conversions ***",  "*** Month Calendar",
-      "*** Year Calendar",         "*** List of Reminders ***", "*** Prime Calculator",
-      "*** Religious Festivals",   "*** Observed Days",         "*** Easter Dates",
+      "*** About My Location ***",   "*** Factor Calculator ***", "*** Magic Square",
+      "*** New Year's Days",         "*** Date Conversions ***",  "*** Month Calendar",
+      "*** Year Calendar",           "*** List of Reminders ***", "*** Prime Calculator",
+      "*** Religious Festivals",     "*** Observed Days",         "*** Easter Dates",
+      "*** Reminder List for Month",
   };
   for (auto t : kTables)
     if (StartsWith(firstLine, t)) return true;

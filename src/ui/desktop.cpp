@@ -15,6 +15,10 @@ namespace mc::ui {
 
 Desktop::Desktop(Context& ctx) : ctx_(ctx) {}
 
+Desktop::~Desktop() {
+  for (auto& [number, form] : loaded_) delete form.data();
+}
+
 ScreenForm* Desktop::Loaded(int formNumber) const {
   auto it = loaded_.find(formNumber);
   return it == loaded_.end() ? nullptr : it->second.data();
@@ -83,6 +87,12 @@ void Desktop::SaveOutput(QWidget* parent, const std::string& text, SaveStyle sty
 void Desktop::PrintOutput(QWidget* parent, const std::string& text) {
   if (text.find_first_not_of(" \t\r\n") == std::string::npos) return;
   PrintForm form(*this, text, parent);
+  form.exec();
+}
+
+void Desktop::PrintListing(QWidget* parent, const std::string& text, const PrintFont& body) {
+  if (text.find_first_not_of(" \t\r\n") == std::string::npos) return;
+  PrintForm form(*this, text, parent, &body);
   form.exec();
 }
 

@@ -14,6 +14,10 @@
 
 class QWidget;
 
+namespace mc {
+struct PrintFont;
+}
+
 namespace mc::ui {
 
 class ScreenForm;
@@ -23,6 +27,8 @@ class Desktop : public QObject {
   Q_OBJECT
  public:
   explicit Desktop(Context& ctx);
+  // The screens it loaded go with it.
+  ~Desktop() override;
   Context& ctx() { return ctx_; }
 
   using Factory = std::function<ScreenForm*(Desktop&)>;
@@ -47,6 +53,9 @@ class Desktop : public QObject {
   void SaveOutput(QWidget* parent, const std::string& text, SaveStyle style);
   // "&Print": the Print Settings screen with the text.
   void PrintOutput(QWidget* parent, const std::string& text);
+  // A listing with a font of its own (the reminder slots in Courier New 9):
+  // printed whole, without a title line, leaving the stored body font alone.
+  void PrintListing(QWidget* parent, const std::string& text, const PrintFont& body);
   // Ctrl+F: the Find screen over an output box.
   void OpenFind(QWidget* parent, OutputBox* box);
   // F1 and the help menu: a PDF of the program folder with the desktop's viewer.

@@ -57,13 +57,21 @@ QDoubleSpinBox* MarginBox(QWidget* parent, const char* name) {
 
 }  // namespace
 
-PrintForm::PrintForm(Desktop& desktop, const std::string& output, QWidget* parent)
+PrintForm::PrintForm(Desktop& desktop, const std::string& output, QWidget* parent,
+                     const PrintFont* listingFont)
     : QDialog(parent), desktop_(desktop) {
   setObjectName("Form29");
   setWindowTitle("Print Settings");
   loaded_ = LoadPrintSettings(desktop.ctx());
   PrintDocument doc = SplitForPrinting(output, loaded_);
-  if (IsTableLikeOutput(doc.title)) loaded_.body.name = loaded_.bodyFixedFontName;
+  if (listingFont) {
+    doc.title.clear();
+    doc.text = output;
+    storedBody_ = loaded_.body;
+    loaded_.body = *listingFont;
+  } else if (IsTableLikeOutput(doc.title)) {
+    loaded_.body.name = loaded_.bodyFixedFontName;
+  }
 
   auto* layout = new QVBoxLayout(this);
   auto* docBox = new QGroupBox("Document", this);
@@ -289,6 +297,7 @@ bool PrintForm::Print(const QString& pdfFile) {
     ShowRunTimeError(ctx, kDeviceIO);
     return false;
   }
+  if (storedBody_) s.body = *storedBody_;
   StorePrintSettings(ctx, s);
   return true;
 }

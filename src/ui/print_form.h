@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QDialog>
+#include <optional>
 #include <string>
 
 #include "shell/print_settings.h"
@@ -23,7 +24,10 @@ class Desktop;
 class PrintForm : public QDialog {
   Q_OBJECT
  public:
-  PrintForm(Desktop& desktop, const std::string& output, QWidget* parent = nullptr);
+  // With `listingFont` the whole output is the text, printed in that font;
+  // the stored body font is left as it was.
+  PrintForm(Desktop& desktop, const std::string& output, QWidget* parent = nullptr,
+            const PrintFont* listingFont = nullptr);
 
   // The settings as the widgets hold them.
   PrintSettings Settings() const;
@@ -45,6 +49,7 @@ class PrintForm : public QDialog {
 
   Desktop& desktop_;
   PrintSettings loaded_;
+  std::optional<PrintFont> storedBody_;  // the user's body font, while a listing has its own
   QLineEdit *title_, *header_, *footer_;
   QPlainTextEdit* text_;
   FontRow titleFont_, headerFont_, bodyFont_, footerFont_;
