@@ -166,6 +166,8 @@ bool MainWindow::Implemented(const MenuEntry& e) const {
     case Command::MenuBarSummary:
     case Command::SpecialKeysSummary:
     case Command::VersionHistory:
+    case Command::ListReminders:
+    case Command::ListOutOfDate:
       return true;
     default:
       return false;
@@ -199,6 +201,13 @@ void MainWindow::Run(const MenuEntry& e) {
     case Command::VersionHistory:
       desktop_.OpenHelpFile("history.pdf");
       break;
+    case Command::ListReminders:
+      ListReminders();
+      output_->setFocus();
+      break;
+    case Command::ListOutOfDate:
+      ListOutOfDate();
+      break;
     default:
       break;
   }
@@ -214,7 +223,10 @@ void MainWindow::Tick() {
   ReminderTickResult reminders = ReminderDayCheck(ctx_, output_->Report(), ctx_.settings.alarm.set);
   if (reminders.rebuilt) {
     if (reminders.replaceOutput) ShowReminderReport(reminders.report);
-    lamp_colour_ = reminders.report.lamp;
+    if (reminders.report.text != kReportError) {
+      lamp_colour_ = reminders.report.lamp;
+      ShowLamp();
+    }
     Signal(reminders.signal);
   }
   MainScreenModel::Tick t = model_.OnTick(now);
@@ -243,10 +255,14 @@ void MainWindow::ShowReminderReport(const ReminderReport& report) {
   SetFontMode(ReportFontMode(report));
   output_->SetReport(report.text);
   lamp_colour_ = report.lamp;
-  lamp_->setVisible(report.lamp != LampColour::Hidden);
+  ShowLamp();
+}
+
+void MainWindow::ShowLamp() {
+  lamp_->setVisible(lamp_colour_ != LampColour::Hidden);
   QPalette p = lamp_->palette();
   p.setColor(QPalette::WindowText,
-             report.lamp == LampColour::Red ? QColor(255, 0, 0) : QColor(255, 197, 138));
+             lamp_colour_ == LampColour::Red ? QColor(255, 0, 0) : QColor(255, 197, 138));
   lamp_->setPalette(p);
 }
 
@@ -283,6 +299,7 @@ void MainWindow::ReminderScreenLeft() {
 void MainWindow::showEvent(QShowEvent* event) {
   ctx_.Trace("Main form activate entered.");
   ApplyScreenColours(ctx_, this, 1);
+  ShowLamp();  // the screen's text colour is not the lamp's
   ctx_.settings.currentForm.clear();
   QMainWindow::showEvent(event);
 }

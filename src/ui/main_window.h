@@ -57,6 +57,7 @@ class MainWindow : public QMainWindow {
   void ToggleEnlarged();
   void ToTray();
   void ShowReminderReport(const ReminderReport& report);
+  void ShowLamp();
   void Signal(const ReminderSignal& signal);
   void ListReminders();
   void ListOutOfDate();

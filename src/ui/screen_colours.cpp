@@ -45,6 +45,11 @@ void ApplyScreenColours(Context& ctx, QWidget* form, int formNumber) {
                qobject_cast<QRadioButton*>(w) || qobject_cast<QGroupBox*>(w)) {
       wp.setColor(QPalette::Window, background);
       wp.setColor(QPalette::WindowText, text);
+      // A disabled input's caption fades towards the background.
+      wp.setColor(
+          QPalette::Disabled, QPalette::WindowText,
+          QColor((text.red() + background.red()) / 2, (text.green() + background.green()) / 2,
+                 (text.blue() + background.blue()) / 2));
       w->setPalette(wp);
     }
   }
