@@ -294,6 +294,10 @@ AddRemindersForm::AddRemindersForm(Desktop& desktop)
   resize(720, 0);
 }
 
+void AddRemindersForm::Activated() {
+  ShowModel();  // the year lists follow the present year
+}
+
 void AddRemindersForm::ShowModel() {
   {
     QSignalBlocker b(message_);

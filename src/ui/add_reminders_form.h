@@ -29,6 +29,9 @@ class AddRemindersForm : public ReminderForm {
 
   AddRemindersScreen& Model() { return model_; }
 
+ protected:
+  void Activated() override;
+
  private:
   void ShowModel();
   void ShowEnabled();

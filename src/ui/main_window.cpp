@@ -215,11 +215,7 @@ void MainWindow::Run(const MenuEntry& e) {
 
 void MainWindow::Tick() {
   const LocalDateTime now = ctx_.Now();
-  ScreenForm* active = desktop_.ActiveScreen();
-  if (active) {
-    active->Tick(now);
-    return;
-  }
+  // A new day is seen whichever screen is on top.
   ReminderTickResult reminders = ReminderDayCheck(ctx_, output_->Report(), ctx_.settings.alarm.set);
   if (reminders.rebuilt) {
     if (reminders.replaceOutput) ShowReminderReport(reminders.report);
@@ -228,6 +224,10 @@ void MainWindow::Tick() {
       ShowLamp();
     }
     Signal(reminders.signal);
+  }
+  if (ScreenForm* active = desktop_.ActiveScreen()) {
+    active->Tick(now);
+    return;
   }
   MainScreenModel::Tick t = model_.OnTick(now);
   clock_->setText(Q(t.clockText));

@@ -125,6 +125,19 @@ TEST_F(ReminderFormsTest, AddAReminderAndSeeItOnTheMainList) {
   EXPECT_FALSE(Reminders(p.ctx).remindersChanged);
 }
 
+TEST_F(ReminderFormsTest, ANewDayIsSeenBehindAReminderScreen) {
+  InsertReminder(p.ctx, 1123, 2026, "Call Anna");
+  InsertReminder(p.ctx, 1125, 2026, "Dentist");
+  p.clock.Set({2026, 11, 23, 23, 59, 58, 0});
+  Open();
+  auto* month = Menu<RemindersByMonthForm>("muRemByMonth");
+  p.clock.Advance(3000);
+  window->Tick();
+  EXPECT_EQ(Child<QLineEdit>(month, "txtDate")->text(), "Tue Nov 24");
+  EXPECT_EQ(MainList().find("Call Anna"), std::string::npos);  // gone to purged.dat
+  EXPECT_EQ(p.sink.Last(), "One of your set reminders is imminent.");
+}
+
 TEST_F(ReminderFormsTest, TypesEnableTheirOwnInputsAndSaveTheirSeries) {
   Open();
   auto* add = Menu<AddRemindersForm>("muAddRem");
