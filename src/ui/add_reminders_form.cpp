@@ -48,7 +48,9 @@ class MessageEdit : public QLineEdit {
   void contextMenuEvent(QContextMenuEvent* event) override {
     QMenu* menu = createStandardContextMenu();
     for (QAction* a : menu->actions()) {
-      if (a->objectName() == "edit-paste") {
+      // Named in newer Qt; known by its caption in older.
+      if (a->objectName() == "edit-paste" ||
+          a->text().section('\t', 0, 0) == QLineEdit::tr("&Paste")) {
         a->disconnect();
         connect(a, &QAction::triggered, this, [this] { onPaste(QClipboard::Clipboard); });
       }

@@ -9,9 +9,11 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -202,6 +204,25 @@ TEST_F(ReminderFormsTest, PasteIsCutToSixtyCharacters) {
   EXPECT_EQ(message->text(), "Call Anna and Bob");
   EXPECT_EQ(message->cursorPosition(), 17);
   EXPECT_EQ(add->Model().message, "Call Anna and Bob");
+
+  // The context menu's Paste is cut the same way.
+  QApplication::clipboard()->setText(QString(50, 'y'));
+  message->setCursorPosition(17);
+  QContextMenuEvent menuEvent(QContextMenuEvent::Mouse, QPoint(5, 5),
+                              message->mapToGlobal(QPoint(5, 5)));
+  QApplication::sendEvent(message, &menuEvent);
+  auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+  ASSERT_NE(menu, nullptr);
+  QAction* paste = nullptr;
+  for (QAction* a : menu->actions())
+    if (a->text().startsWith("&Paste")) paste = a;
+  ASSERT_NE(paste, nullptr);
+  p.sink.answers = {true};
+  paste->trigger();
+  menu->close();
+  EXPECT_EQ(p.sink.Last(),
+            "Text to be pasted will be truncated to 43 characters. Do you wish to continue?");
+  EXPECT_EQ(message->text(), "Call Anna and Bob" + QString(43, 'y'));
 }
 
 TEST_F(ReminderFormsTest, EditAndDeleteFromTheListing) {
