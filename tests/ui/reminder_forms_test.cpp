@@ -255,8 +255,16 @@ TEST_F(ReminderFormsTest, EditAndDeleteFromTheListing) {
             "1      15/12   2026    Dentist");  // moved to its place
   EXPECT_EQ(Child<QLineEdit>(edit, "txtNumber")->text(), "");
 
-  // F3 finds on in the listing.
-  EXPECT_TRUE(listing->Find("party", false, true));
+  // Ctrl+F searches the listing, and F3 finds on.
+  QTimer::singleShot(0, [] {
+    QWidget* find = QApplication::activeModalWidget();
+    ASSERT_NE(find, nullptr);
+    EXPECT_EQ(find->objectName(), "Form74");
+    find->findChild<QLineEdit*>("txtFind")->setText("party");
+    QTest::mouseClick(find->findChild<QPushButton*>("cmdFind"), Qt::LeftButton);
+  });
+  QTest::keyClick(listing, Qt::Key_F, Qt::ControlModifier);
+  EXPECT_EQ(listing->textCursor().selectedText(), "Party");
   const int first = listing->textCursor().selectionStart();
   QTest::keyClick(listing, Qt::Key_F3);
   EXPECT_GT(listing->textCursor().selectionStart(), first);
