@@ -88,8 +88,7 @@ EditRemindersForm::EditRemindersForm(Desktop& desktop)
   connect(update, &QPushButton::clicked, this, &EditRemindersForm::Update);
   connect(delete_, &QPushButton::clicked, this, &EditRemindersForm::Delete);
 
-  ShowListing();
-  ShowFields();
+  ShowFields();  // the listing comes with each activation
   resize(760, 560);
 }
 
