@@ -307,8 +307,11 @@ int NawRuzDay(int year) {
 }
 
 bool IsBahaiLeap(int year) {
+  // Inside the table the year holds 366 days when the next Naw-Ruz comes a
+  // day later in March than this one, or on the same day across a Gregorian
+  // leap day (216 and 220 B.E.).
   if (year >= kBahaiTableFirst && year <= kBahaiTableLast)
-    return NawRuzDay(year + 1) == 21 && NawRuzDay(year) == 20;
+    return IsGregorianLeap(year + 1844) + NawRuzDay(year + 1) - NawRuzDay(year) == 1;
   int g = year + 1844;
   return (FloorMod(year, 4) == 0 && g % 100 != 0) || g % 400 == 0;
 }
