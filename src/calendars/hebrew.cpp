@@ -12,6 +12,9 @@ constexpr int FloorDiv(int a, int b) {
 constexpr int FloorMod(int a, int b) {
   return a - FloorDiv(a, b) * b;
 }
+constexpr long long FloorDiv64(long long a, long long b) {
+  return a / b - (a % b != 0 && (a < 0) != (b < 0));
+}
 
 // Day 1 of the day count is JD 347998, Monday 1 Tishri of year 1.
 constexpr JD kHebrewEpoch = 347997;
@@ -101,14 +104,33 @@ bool IsHebrewLeap(int year) {
   }
 }
 
-// The molad of Tishri from the cycles, common years and leap months before
-// the year, then the four postponements of the new year.
-HebrewNewYearDay HebrewNewYear(int year) {
+// The molad of Tishri: the first molad, plus the cycles, the common years
+// and the leap months before the year.
+MoladSpan MoladOfTishri(int year) {
   int c = FloorDiv(year - 1, 19);
   int n = FloorMod(year - 1, 19);
   MoladSpan b = MoladAdd(kFirstMolad, MoladMultiply(kCycle, c));
   MoladSpan d = MoladAdd(b, MoladMultiply(kCommonYear, n));
-  MoladSpan f = MoladAdd(d, MoladMultiply(kMonth, LeapMonthsInCycle(n)));
+  return MoladAdd(d, MoladMultiply(kMonth, LeapMonthsInCycle(n)));
+}
+
+// The new year from the molad of Tishri, with the four postponements. The
+// molad is summed here in parts, in one step: the same sum as MoladOfTishri
+// carries unit by unit, at a fraction of the cost.
+HebrewNewYearDay HebrewNewYear(int year) {
+  constexpr long long kPartsPerHour = 1080, kPartsPerDay = 24 * kPartsPerHour;
+  constexpr long long kPartsPerMonth = 29 * kPartsPerDay + 12 * kPartsPerHour + 793;
+  const int c = FloorDiv(year - 1, 19);
+  const int n = FloorMod(year - 1, 19);
+  const long long months = 235LL * c + 12 * n + LeapMonthsInCycle(n);
+  const long long parts = 5 * kPartsPerHour + 204 + months * kPartsPerMonth;
+  const long long wholeDays = FloorDiv64(parts, kPartsPerDay);
+  const long long rest = parts - wholeDays * kPartsPerDay;
+  MoladSpan f;
+  f.weeks = static_cast<int>(FloorDiv64(wholeDays, 7));
+  f.days = static_cast<int>(wholeDays - 7LL * f.weeks);
+  f.hours = static_cast<int>(rest / kPartsPerHour);
+  f.parts = static_cast<int>(rest % kPartsPerHour);
 
   HebrewNewYearDay ny;
   ny.hours = f.hours;

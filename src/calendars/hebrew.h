@@ -26,6 +26,10 @@ int LeapMonthsInCycle(int n);
 
 bool IsHebrewLeap(int year);
 
+// The molad of Tishri of a year: the first molad plus the cycles, common
+// years and leap months before it, carried span by span.
+MoladSpan MoladOfTishri(int year);
+
 // The first of Tishri: the day count from the epoch (the JD is 347997 more),
 // its weekday (1 = Sunday), and the hours and parts of the year's molad.
 struct HebrewNewYearDay {

@@ -46,6 +46,16 @@ TEST_F(Hebrew, MoladArithmetic) {
   EXPECT_EQ(MoladMultiply(month, 0), (MoladSpan{}));
   const int expected[20] = {0, 0, 0, 1, 1, 1, 2, 2, 3, 3, 3, 4, 4, 4, 5, 5, 5, 6, 6, 7};
   for (int n = 0; n <= 19; ++n) EXPECT_EQ(LeapMonthsInCycle(n), expected[n]) << n;
+  // The new year sums the molad in parts at once; the span sum agrees.
+  for (int y = 1; y <= 13760; ++y) {
+    const MoladSpan f = MoladOfTishri(y);
+    const HebrewNewYearDay ny = HebrewNewYear(y);
+    ASSERT_EQ(ny.hours, f.hours) << y;
+    ASSERT_EQ(ny.parts, f.parts) << y;
+    ASSERT_GE(ny.days - (7 * f.weeks + f.days + 1), 0) << y;
+    ASSERT_LE(ny.days - (7 * f.weeks + f.days + 1), 2) << y;
+  }
+  EXPECT_EQ(MoladOfTishri(1), (MoladSpan{0, 0, 5, 204}));
 }
 
 TEST_F(Hebrew, KnownDates) {
