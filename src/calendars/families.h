@@ -8,5 +8,8 @@ namespace mc {
 void RegisterGregorianRules(RulesTable& table);
 void RegisterAstroPersianRules(RulesTable& table);
 void RegisterChineseRules(RulesTable& table);
+void RegisterSolarFixedRules(RulesTable& table);
+void RegisterHebrewRules(RulesTable& table);
+void RegisterIslamicRules(RulesTable& table);
 
 }  // namespace mc

@@ -126,4 +126,60 @@ inline constexpr NameList<12> kVietnameseBranchesPlain = {
 // ("Vendémiaire" -> "Vendemiaire", "Çarsamba" -> "Carsamba").
 std::string PlainLetters(std::string_view text);
 
+// Baha'i: months (the day names are the same list), weekdays, years of the Vahid.
+inline constexpr NameList<20> kBahaiMonths = {
+    "",        "Baha'",    "Jalal", "Jamal",  "'Azamat", "Nur",     "Rahmat",
+    "Kalimat", "Kamal",    "Asma'", "'Izzat", "Mashiyyat", "'Ilm",  "Qudrat",
+    "Qawl",    "Masa'il",  "Sharaf", "Sultan", "Mulk",   "Ayyam-i-Ha", "'Ala'"};
+inline constexpr NameList<7> kBahaiWeekdays = {
+    "", "Jamal", "Kamal", "Fidal", "Idal", "Istijlal", "Istiqlal", "Jalal"};
+inline constexpr NameList<19> kBahaiVahidYears = {
+    "",     "Alif",  "Ba'",    "Ab",    "Dal",  "Bab",   "Vav",   "Abad",  "Jad",   "Baha'",
+    "Hubb", "Bahhaj", "Javab", "Ahad",  "Vahhab", "Vidad", "Badi'", "Bahi", "Abha", "Vahid"};
+
+// French Revolutionary: months, the days of the decade, the complementary days.
+inline constexpr NameList<13> kFrenchMonths = {
+    "",          "Vendémiaire", "Brumaire",  "Frimaire",  "Nivôse",    "Pluviôse",
+    "Ventôse",   "Germinal",    "Floréal",   "Prairial",  "Messidor",  "Thermidor",
+    "Fructidor", "Jours Complémentaire"};
+inline constexpr NameList<10> kFrenchDecadeDays = {
+    "",        "Primidi", "Duodi",  "Tridi",  "Quartidi", "Quintidi",
+    "Sextidi", "Septidi", "Octidi", "Nonidi", "Decadi"};
+inline constexpr NameList<6> kFrenchComplementaryDays = {
+    "",
+    "Fête de la Vertu",
+    "Fête du Génie",
+    "Fête du Travail",
+    "Fête de l'Opinion",
+    "Fête de la Récompense",
+    "Jour de la Révolution"};
+
+// Parsi (Fasli, Shenshai, Kadmi): the thirty day names and the Gatha days of
+// month 13, the sixth being the leap day of the Fasli calendar.
+inline constexpr NameList<30> kParsiDayNames = {
+    "",          "Hormazd",   "Bahman",  "Ardibehest", "Shehrevar",  "Aspandarmad", "Khordad",
+    "Amardad",   "Daepadar",  "Adar",    "Avan",       "Khorshed",   "Mohor",       "Tir",
+    "Gosh",      "Daepmeher", "Meher",   "Srosh",      "Rashne",     "Fravardin",   "Behram",
+    "Ram",       "Govad",     "Daepdin", "Din",        "Ashishvangh", "Ashtad",     "Asman",
+    "Zamyad",    "Mahrespand", "Aneran"};
+inline constexpr NameList<6> kParsiGathaDays = {
+    "", "Ahunavad", "Ushtavad", "Spentomad", "Vohukhshathra", "Vahishtoist", "Avardad-sal-gah"};
+
+// Hebrew: months in the engine's numbering (Tishri = 1, Adar II = 7), weekdays.
+inline constexpr NameList<13> kHebrewMonths = {
+    "",       "Tishri", "Cheshvan", "Kislev", "Tevet", "Shevat", "Adar",
+    "Adar II", "Nisan", "Iyyar",    "Sivan",  "Tammuz", "Av",    "Elul"};
+inline constexpr NameList<7> kHebrewWeekdays = {
+    "",           "Yom rishon",   "Yom sheni",  "Yom shelishi", "Yom revi'i",
+    "Yom hamishi", "Yom shishi", "Yom shabbat"};
+
+// Islamic (arithmetical and Umm al-Qura): months, weekdays.
+inline constexpr NameList<12> kIslamicMonths = {
+    "",         "Al-Muharram",     "Safar",           "Rabi' al-Awwal", "Rabi' al-Akhir",
+    "Jumada 'l-Ula", "Jumada 'l-Akhira", "Rajab",     "Sha'ban",        "Ramadan",
+    "Shawwal",  "Dhu 'l-Qa'da",    "Dhu 'l-Hijja"};
+inline constexpr NameList<7> kIslamicWeekdays = {
+    "",           "Yaum al-ahad", "Yaum al-ithnayn", "Yaum ath-thalatha'", "Yaum al-arba'a'",
+    "Yaum al-khamis", "Yaum al-jum'a", "Yaum as-sabt"};
+
 }  // namespace mc

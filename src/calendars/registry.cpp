@@ -12,6 +12,9 @@ const RulesTable& AllRules() {
     RegisterGregorianRules(t);
     RegisterAstroPersianRules(t);
     RegisterChineseRules(t);
+    RegisterSolarFixedRules(t);
+    RegisterHebrewRules(t);
+    RegisterIslamicRules(t);
     return t;
   }();
   return table;

@@ -40,7 +40,7 @@ Options:
   --help, --version
 
 Messages go to stderr as "Caption: text". Exit status: 0 done, 1 input
-refused, 2 set-up failure (program folder or mercod.ini).
+refused, 2 set-up failure (program folder, mercod.ini or a data file).
 )";
 }
 

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "calendars/islamic.h"
 #include "core/errors.h"
 #include "core/ini_file.h"
 #include "core/locale_facts.h"
@@ -65,7 +66,7 @@ void ReadAlarmBlock(Context& ctx) {
 
 }  // namespace
 
-void SetBasicData(Context& ctx, const StartOptions& options) {
+bool SetBasicData(Context& ctx, const StartOptions& options) {
   SettingsBlock& s = ctx.settings;
   ctx.Trace("SetBasicData entered.");
   s.showTipPending = true;
@@ -125,8 +126,15 @@ void SetBasicData(Context& ctx, const StartOptions& options) {
   // Reminder messages were widened from 40 to 60 characters once.
   if (s.remLengthUpdated == "No") WidenReminderMessages(ctx);
 
+  bool dataLoaded = true;
+  if (LoadUmmAlQuraTable(ctx))
+    ctx.Trace("SetBasicData. UAQ data arrays successfully created.");
+  else
+    dataLoaded = false;
+
   ctx.Trace("SetBasicData. Global values successfully defined.");
   ctx.Trace("SetBasicData. Remaining global values successfully defined.");
+  return dataLoaded;
 }
 
 StartOutcome StartProgram(Context& ctx, const StartOptions& options) {
@@ -144,8 +152,9 @@ StartOutcome StartProgram(Context& ctx, const StartOptions& options) {
   }
   ctx.TraceLine("Main form load. File mercod.ini exists.");
   ctx.settings.debugOn = ReadIniFile(ctx, 0, "Debug") == "Yes";
-  SetBasicData(ctx, options);
+  const bool dataLoaded = SetBasicData(ctx, options);
   ctx.Trace("Main form load. SetBasicData has completed.");
+  if (!dataLoaded) return StartOutcome::BadDataFile;
 
   // The factoring engine is written out only while it runs.
   RemoveIfExists(ctx.FilePath("yafu-32k-Win32.exe"));

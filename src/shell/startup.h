@@ -13,6 +13,8 @@ enum class StartOutcome {
   Ready,
   MissingFolder,   // "Installation folder not found." was shown
   MissingIniFile,  // "File mercod.ini not found. ..." was shown
+  BadDataFile,     // a data file read at start (ummalqur.dat) is missing or damaged;
+                   // the run-time error box was shown
 };
 
 struct StartOptions {
@@ -25,7 +27,9 @@ struct StartOptions {
 // The load sequence up to a filled settings block, with its trace lines.
 StartOutcome StartProgram(Context& ctx, const StartOptions& options = {});
 
-// Fills the settings block from mercod.ini, upgrading the file first.
-void SetBasicData(Context& ctx, const StartOptions& options = {});
+// Fills the settings block from mercod.ini, upgrading the file first, and
+// loads the tables read at start. False when a data file failed to load (its
+// message has been shown); the remaining steps still run.
+bool SetBasicData(Context& ctx, const StartOptions& options = {});
 
 }  // namespace mc
