@@ -6,5 +6,6 @@
 namespace mc {
 
 void RegisterGregorianRules(RulesTable& table);
+void RegisterHinduRules(RulesTable& table);
 
 }  // namespace mc

@@ -85,4 +85,19 @@ inline constexpr NameList<13> kParsiMonths = {
 // ("Vendémiaire" -> "Vendemiaire", "Çarsamba" -> "Carsamba").
 std::string PlainLetters(std::string_view text);
 
+// Hindu calendars. Lunar months from Chaitra; the month lists of the calendar
+// views call the ninth month "Agrahayana". Solar months are the signs from Mesha.
+inline constexpr NameList<12> kHinduLunarMonths = {
+    "", "Chaitra", "Vaisakha", "Jyaistha", "Ashadha", "Sravana", "Bhadrapada",
+    "Asvina", "Kartika", "Margasirsha", "Pausha", "Magha", "Phalguna"};
+inline constexpr NameList<12> kHinduCalendarLunarMonths = {
+    "", "Chaitra", "Vaisakha", "Jyaistha", "Ashadha", "Sravana", "Bhadrapada",
+    "Asvina", "Kartika", "Agrahayana", "Pausha", "Magha", "Phalguna"};
+inline constexpr NameList<12> kHinduSolarMonths = {
+    "", "Mesha", "Vrishabha", "Mithuna", "Karka", "Simha", "Kanya",
+    "Tula", "Vrischika", "Dhanu", "Makara", "Kumbha", "Mina"};
+inline constexpr NameList<7> kHinduWeekdays = {
+    "", "Ravivara", "Chandravara", "Mangalavara", "Buddhavara", "Brihaspatvara", "Sukravara",
+    "Sanivara"};
+
 }  // namespace mc

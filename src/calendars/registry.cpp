@@ -10,6 +10,7 @@ const RulesTable& AllRules() {
   static const RulesTable table = [] {
     RulesTable t{};
     RegisterGregorianRules(t);
+    RegisterHinduRules(t);
     return t;
   }();
   return table;
