@@ -221,7 +221,7 @@ TEST_F(HinduCalendars, EveryValidLunisolarDateMapsBackAndNoOtherIsValid) {
 
 TEST_F(HinduCalendars, SkippedDaysHaveNoDayAndRepeatedDaysTwo) {
   CalendarEngine& e = engine();
-  // Magha 2082 (January 2026): day 14 is skipped, day 23 is repeated.
+  // Magha 2082: day 14 is skipped (1 February 2026), day 23 repeated (9 and 10 February).
   EXPECT_EQ(e.JDToDate(CalType::HinLun, 2461072), (CalDate{13, 11, 2082}));
   EXPECT_EQ(e.JDToDate(CalType::HinLun, 2461073), (CalDate{15, 11, 2082}));
   EXPECT_EQ(e.DateToJD(CalType::HinLun, 14, 11, 2082), kRDToJD - 1);
