@@ -24,6 +24,10 @@ inline double Mod(double x, double m) {
 inline double Frac(double x) {
   return x - Floor(x);
 }
+// Whole-number modulus, 0 .. m - 1 also for days before the Kali Yuga.
+inline int Mod(long long x, int m) {
+  return static_cast<int>(((x % m) + m) % m);
+}
 
 // The traditional table of sines for 0, 225, ..., 5400 minutes, radius 3438:
 // round(3438 sin(entry * 3 deg 45 min) + 0.215 sgn(exact) sgn(|exact| - 1716)).
@@ -283,7 +287,7 @@ double NewMoonBefore(double t) {
   double lo = tau - 1;
   double phaseHi = LunarPhase(hi);
   double phaseLo = LunarPhase(lo);
-  while (phaseLo < phaseHi) {
+  for (int n = 0; n < 40 && phaseLo < phaseHi; ++n) {
     hi = lo;
     phaseHi = phaseLo;
     lo -= 1;
@@ -450,7 +454,7 @@ OldSolarDate OldSolarDateFromRD(int rd) {
   double s = static_cast<double>(rd) + kHinduEpoch + 0.25;
   OldSolarDate d;
   d.year = static_cast<int>(Floor(s / kAryaSolarYear));
-  d.month = static_cast<int>(Floor(s / kAryaSolarMonth)) % 12 + 1;
+  d.month = Mod(static_cast<long long>(Floor(s / kAryaSolarMonth)), 12) + 1;
   d.day = static_cast<int>(Floor(Mod(s, kAryaSolarMonth))) + 1;
   return d;
 }
@@ -461,8 +465,8 @@ OldLunarDate OldLunarDateFromRD(int rd) {
   double intoSolarMonth = Mod(n, kAryaSolarMonth);
   OldLunarDate d;
   d.leapMonth = (kAryaSolarMonth - kAryaLunarMonth) >= intoSolarMonth && intoSolarMonth > 0;
-  d.month = static_cast<int>(std::ceil(n / kAryaSolarMonth - 0.000001)) % 12 + 1;
-  d.day = static_cast<int>(Floor(s / kAryaLunarDay + 0.000001)) % 30 + 1;
+  d.month = Mod(static_cast<long long>(std::ceil(n / kAryaSolarMonth - 0.000001)), 12) + 1;
+  d.day = Mod(static_cast<long long>(Floor(s / kAryaLunarDay + 0.000001)), 30) + 1;
   d.year = static_cast<int>(std::ceil((n + kAryaSolarMonth) / kAryaSolarYear - 0.000001)) - 1;
   return d;
 }
