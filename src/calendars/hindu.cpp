@@ -335,13 +335,17 @@ int RDFromSolarDate(int month, int day, int year) {
 
 namespace {
 
-// Days where the computation gives the wrong month.
+// Two months, Bhadrapada 3918 and Kartika 6217, begin with a new moon seconds
+// before the sun enters the next sign. Taken less closely than NewMoonBefore
+// takes it, that new moon puts some of their days into the month of the next
+// sign; these days are held to their month, and the dates below to their
+// days, whatever the search says.
 constexpr std::array<int, 2> kMonthSixDays = {1410138, 1410142};
 constexpr std::array<int, 13> kMonthEightDays = {2249918, 2249920, 2249921, 2249926, 2249928,
                                                  2249930, 2249931, 2249933, 2249936, 2249938,
                                                  2249941, 2249943, 2249945};
 
-// Dates the search misses: day of month and its RD.
+// Day of month and its RD.
 struct KnownDay {
   int day;
   int rd;
