@@ -181,5 +181,19 @@ inline constexpr NameList<12> kIslamicMonths = {
 inline constexpr NameList<7> kIslamicWeekdays = {
     "",           "Yaum al-ahad", "Yaum al-ithnayn", "Yaum ath-thalatha'", "Yaum al-arba'a'",
     "Yaum al-khamis", "Yaum al-jum'a", "Yaum as-sabt"};
+// Hindu calendars. Lunar months from Chaitra; the month lists of the calendar
+// views call the ninth month "Agrahayana". Solar months are the signs from Mesha.
+inline constexpr NameList<12> kHinduLunarMonths = {
+    "", "Chaitra", "Vaisakha", "Jyaistha", "Ashadha", "Sravana", "Bhadrapada",
+    "Asvina", "Kartika", "Margasirsha", "Pausha", "Magha", "Phalguna"};
+inline constexpr NameList<12> kHinduCalendarLunarMonths = {
+    "", "Chaitra", "Vaisakha", "Jyaistha", "Ashadha", "Sravana", "Bhadrapada",
+    "Asvina", "Kartika", "Agrahayana", "Pausha", "Magha", "Phalguna"};
+inline constexpr NameList<12> kHinduSolarMonths = {
+    "", "Mesha", "Vrishabha", "Mithuna", "Karka", "Simha", "Kanya",
+    "Tula", "Vrischika", "Dhanu", "Makara", "Kumbha", "Mina"};
+inline constexpr NameList<7> kHinduWeekdays = {
+    "", "Ravivara", "Chandravara", "Mangalavara", "Buddhavara", "Brihaspatvara", "Sukravara",
+    "Sanivara"};
 
 }  // namespace mc
