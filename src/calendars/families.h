@@ -11,5 +11,6 @@ void RegisterChineseRules(RulesTable& table);
 void RegisterSolarFixedRules(RulesTable& table);
 void RegisterHebrewRules(RulesTable& table);
 void RegisterIslamicRules(RulesTable& table);
+void RegisterCycleRules(RulesTable& table);
 
 }  // namespace mc

@@ -15,6 +15,7 @@ const RulesTable& AllRules() {
     RegisterSolarFixedRules(t);
     RegisterHebrewRules(t);
     RegisterIslamicRules(t);
+    RegisterCycleRules(t);
     return t;
   }();
   return table;
