@@ -97,7 +97,8 @@ std::optional<RegnalAnswer> RegnalYearOf(Context& ctx, JD jd, RegnalStyle style)
     const RegnalRecord& r = (*records)[i];
     if (jd < r.startJD || jd > r.endJD) continue;
     answer.reign = RegnalYear{r.name, RegnalYearWithin(engine, r, jd)};
-    if (i + 1 < records->size() && (*records)[i + 1].startJD == r.endJD) {
+    // Only the last day of a reign that is also the successor's first.
+    if (jd == r.endJD && i + 1 < records->size() && (*records)[i + 1].startJD == r.endJD) {
       const RegnalRecord& n = (*records)[i + 1];
       answer.next = RegnalYear{n.name, n.firstYear};
     }
