@@ -25,8 +25,8 @@ namespace {
 // Day lists of the 35-day cycle, by k = n mod 35 (0 read as 35), n the day of
 // the Pawukon from 1; entry 0 unused.
 constexpr std::array<std::uint8_t, 36> kWatekByK = {
-    0, 6, 4, 8, 12, 3, 12, 5, 7, 9, 2, 5, 12, 11, 10, 11, 3, 11,
-    4, 5, 4, 1, 9, 2, 4, 9, 10, 3, 3, 3, 7, 9, 6, 9, 6, 6,
+    0, 6, 4, 8, 12, 3, 12, 5, 7,  9, 2, 5, 12, 11, 10, 11, 3, 11,
+    4, 5, 4, 1, 9,  2, 4,  9, 10, 3, 3, 3, 7,  9,  6,  9,  6, 6,
 };
 constexpr std::array<std::uint8_t, 36> kRakamByK = {
     0, 5, 1, 4, 2, 6, 4, 5, 1, 3, 2, 6, 3, 5, 6, 3, 2, 6,
@@ -34,24 +34,22 @@ constexpr std::array<std::uint8_t, 36> kRakamByK = {
 };
 constexpr std::array<std::uint8_t, 36> kParerasanByK = {
     0, 7, 2, 8, 10, 6, 10, 3, 4, 1, 5, 3, 10, 9, 8, 9, 6, 9,
-    2, 3, 2, 5, 1, 5, 2, 1, 8, 6, 6, 6, 4, 1, 7, 1, 7, 7,
+    2, 3, 2, 5, 1,  5, 2,  1, 8, 6, 6, 6, 4,  1, 7, 1, 7, 7,
 };
 constexpr std::array<std::uint8_t, 36> kPancaSudaByK = {
     0, 1, 2, 3, 3, 4, 5, 1, 4, 6, 1, 1, 6, 2, 5, 2, 7, 4,
     4, 7, 6, 4, 7, 1, 2, 2, 3, 3, 6, 3, 5, 6, 7, 5, 1, 7,
 };
 constexpr std::array<std::uint8_t, 211> kEkajalaRasiByN = {
-    0, 23, 7, 17, 7, 23, 23, 17, 9, 7, 13, 26, 24, 23, 20, 13, 7, 13, 25, 19, 6,
-    2, 14, 26, 17, 20, 25, 23, 1, 10, 6, 15, 23, 7, 17, 23, 17, 25, 5, 23, 2, 2,
-    2, 12, 12, 5, 14, 12, 26, 26, 26, 23, 23, 15, 25, 15, 6, 9, 25, 18, 25, 11, 15,
-    21, 25, 25, 12, 1, 17, 13, 1, 15, 23, 12, 7, 16, 25, 18, 24, 12, 12, 6, 7, 6,
-    26, 7, 6, 12, 7, 25, 2, 8, 25, 25, 14, 15, 26, 7, 12, 20, 7, 6, 25, 25, 7,
-    13, 25, 17, 13, 22, 6, 26, 20, 25, 25, 23, 7, 18, 18, 17, 7, 17, 2, 5, 26, 17,
-    7, 9, 12, 12, 13, 25, 18, 18, 7, 2, 25, 25, 2, 25, 17, 20, 14, 27, 23, 17, 8,
-    25, 17, 6, 17, 7, 3, 15, 18, 25, 2, 7, 13, 25, 20, 2, 15, 15, 23, 7, 8, 24,
-    2, 12, 9, 24, 23, 17, 24, 7, 7, 12, 12, 14, 18, 25, 20, 5, 18, 5, 20, 26, 12,
-    23, 18, 17, 17, 25, 15, 2, 24, 4, 2, 23, 25, 18, 25, 20, 14, 6, 2, 25, 7, 25,
-    17,
+    0,  23, 7,  17, 7,  23, 23, 17, 9,  7,  13, 26, 24, 23, 20, 13, 7,  13, 25, 19, 6,  2,  14, 26,
+    17, 20, 25, 23, 1,  10, 6,  15, 23, 7,  17, 23, 17, 25, 5,  23, 2,  2,  2,  12, 12, 5,  14, 12,
+    26, 26, 26, 23, 23, 15, 25, 15, 6,  9,  25, 18, 25, 11, 15, 21, 25, 25, 12, 1,  17, 13, 1,  15,
+    23, 12, 7,  16, 25, 18, 24, 12, 12, 6,  7,  6,  26, 7,  6,  12, 7,  25, 2,  8,  25, 25, 14, 15,
+    26, 7,  12, 20, 7,  6,  25, 25, 7,  13, 25, 17, 13, 22, 6,  26, 20, 25, 25, 23, 7,  18, 18, 17,
+    7,  17, 2,  5,  26, 17, 7,  9,  12, 12, 13, 25, 18, 18, 7,  2,  25, 25, 2,  25, 17, 20, 14, 27,
+    23, 17, 8,  25, 17, 6,  17, 7,  3,  15, 18, 25, 2,  7,  13, 25, 20, 2,  15, 15, 23, 7,  8,  24,
+    2,  12, 9,  24, 23, 17, 24, 7,  7,  12, 12, 14, 18, 25, 20, 5,  18, 5,  20, 26, 12, 23, 18, 17,
+    17, 25, 15, 2,  24, 4,  2,  23, 25, 18, 25, 20, 14, 6,  2,  25, 7,  25, 17,
 };
 
 // Position of each Pawukon day n = 1..210 in the list of Ekajala Rasi.
@@ -68,12 +66,22 @@ constexpr std::array<int, 7> kSaptawaraUrip = {5, 4, 3, 7, 8, 6, 9};
 
 bool BalLeap(int year) {
   switch (FloorMod(year, 19)) {
-    case 0: case 3: case 6: case 8: case 11: case 14: case 16: return true;
-    default: return false;
+    case 0:
+    case 3:
+    case 6:
+    case 8:
+    case 11:
+    case 14:
+    case 16:
+      return true;
+    default:
+      return false;
   }
 }
 
-int BalMonthCount(int year) { return BalLeap(year) ? 13 : 12; }
+int BalMonthCount(int year) {
+  return BalLeap(year) ? 13 : 12;
+}
 
 // The day of a tithi. -1 for the second day of a pengunalatri, for the day
 // skipped where the count was set back in 1921, and for a month or day
@@ -113,7 +121,9 @@ CalDate BalJDToDate(CalendarEngine& engine, JD jd) {
   return CalDate{day, month, year};
 }
 
-bool BalIsLeapYear(CalendarEngine&, int year) { return BalLeap(year); }
+bool BalIsLeapYear(CalendarEngine&, int year) {
+  return BalLeap(year);
+}
 
 int BalDaysInMonth(CalendarEngine&, int year, int month) {
   return month >= 1 && month <= BalMonthCount(year) ? 30 : 0;
@@ -123,26 +133,46 @@ int BalDaysInMonth(CalendarEngine&, int year, int month) {
 
 // ---- Pawukon ----
 
-int PawukonDay(JD jd) { return FloorMod(static_cast<long long>(jd) - 146, 210); }
+int PawukonDay(JD jd) {
+  return FloorMod(static_cast<long long>(jd) - 146, 210);
+}
 
-int Triwara(JD jd) { return PawukonDay(jd) % 3 + 1; }
-int Pancawara(JD jd) { return (PawukonDay(jd) + 1) % 5 + 1; }
-int Sadwara(JD jd) { return PawukonDay(jd) % 6 + 1; }
-int Saptawara(JD jd) { return PawukonDay(jd) % 7 + 1; }
+int Triwara(JD jd) {
+  return PawukonDay(jd) % 3 + 1;
+}
+int Pancawara(JD jd) {
+  return (PawukonDay(jd) + 1) % 5 + 1;
+}
+int Sadwara(JD jd) {
+  return PawukonDay(jd) % 6 + 1;
+}
+int Saptawara(JD jd) {
+  return PawukonDay(jd) % 7 + 1;
+}
 int Asatawara(JD jd) {
   int d = PawukonDay(jd);
   return std::max(6, 4 + FloorMod(d - 70, 210)) % 8 + 1;
 }
-int Sangawara(JD jd) { return std::max(0, PawukonDay(jd) - 3) % 9 + 1; }
+int Sangawara(JD jd) {
+  return std::max(0, PawukonDay(jd) - 3) % 9 + 1;
+}
 int Dasawara(JD jd) {
   int p = kPancawaraUrip[static_cast<std::size_t>(Pancawara(jd) - 1)];
   int s = kSaptawaraUrip[static_cast<std::size_t>(Saptawara(jd) - 1)];
   return (p + s) % 10 + 1;
 }
-int Dwiwara(JD jd) { return Cycle(Dasawara(jd), 2); }
-int Caturwara(JD jd) { return Cycle(Asatawara(jd), 4); }
-bool Luang(JD jd) { return Dasawara(jd) % 2 == 0; }
-int WukuOf(JD jd) { return PawukonDay(jd) / 7 + 1; }
+int Dwiwara(JD jd) {
+  return Cycle(Dasawara(jd), 2);
+}
+int Caturwara(JD jd) {
+  return Cycle(Asatawara(jd), 4);
+}
+bool Luang(JD jd) {
+  return Dasawara(jd) % 2 == 0;
+}
+int WukuOf(JD jd) {
+  return PawukonDay(jd) / 7 + 1;
+}
 
 std::string PawukonLine(Context& ctx, JD jd) {
   std::string line = Luang(jd) ? "Luang, " : "";
@@ -220,8 +250,7 @@ std::string BalMonthName(Context& ctx, int year, int month) {
 }
 
 std::string BalDayText(int day) {
-  return day > 15 ? " Pangelong " + std::to_string(day - 15)
-                  : " Penanggal " + std::to_string(day);
+  return day > 15 ? " Pangelong " + std::to_string(day - 15) : " Penanggal " + std::to_string(day);
 }
 
 std::string BalineseSakaText(Context& ctx, JD jd) {

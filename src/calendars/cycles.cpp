@@ -37,7 +37,9 @@ CalDate XiuhpohualliOf(CalendarEngine& engine, JD jd) {
 
 }  // namespace
 
-JD MayanConstant(const Context& ctx) { return ctx.settings.mayanConstant; }
+JD MayanConstant(const Context& ctx) {
+  return ctx.settings.mayanConstant;
+}
 
 LongCount LongCountOfJD(const Context& ctx, JD jd) {
   long long x = MayanDays(ctx, jd);
@@ -112,9 +114,9 @@ std::string XiuhpohualliText(Context& ctx, JD jd) {
   CalendarEngine& engine = Calendars(ctx);
   CalDate x = XiuhpohualliOf(engine, jd);
   Xiuhmolpilli bearer = XiuhmolpilliOf(engine, jd);
-  std::string name = bearer.nameIndex
-                         ? Shown(ctx, kTonalpohualliNames[static_cast<std::size_t>(bearer.nameIndex)])
-                         : std::string("?????");
+  std::string name =
+      bearer.nameIndex ? Shown(ctx, kTonalpohualliNames[static_cast<std::size_t>(bearer.nameIndex)])
+                       : std::string("?????");
   return std::to_string(x.day) + " " +
          Shown(ctx, kXiuhpohualliMonths[static_cast<std::size_t>(x.month)]) + " (Month " +
          std::to_string(x.month) + "), Xiuhmolpilli year " + std::to_string(bearer.number) + " " +
@@ -127,7 +129,8 @@ std::string LordOfTheNightText(Context& ctx, JD jd) {
 
 std::string CycleDateText(Context& ctx, CalType type, JD jd) {
   switch (type) {
-    case CalType::May: return LongCountText(LongCountOfJD(ctx, jd));
+    case CalType::May:
+      return LongCountText(LongCountOfJD(ctx, jd));
     case CalType::Haab:
     case CalType::Tzo:
     case CalType::Ton:
@@ -135,7 +138,8 @@ std::string CycleDateText(Context& ctx, CalType type, JD jd) {
       CalDate d = Calendars(ctx).JDToDate(type, jd);
       return std::to_string(d.day) + "/" + std::to_string(d.month);
     }
-    default: return FormatDateText(ctx, type, Calendars(ctx).JDToDate(type, jd));
+    default:
+      return FormatDateText(ctx, type, Calendars(ctx).JDToDate(type, jd));
   }
 }
 

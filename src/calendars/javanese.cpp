@@ -20,7 +20,9 @@ constexpr JD kJavaneseEpoch = 2317689;  // the day before 1 Sura 1555
 constexpr int kFirstYear = 1555;
 
 // The kurup of Arbangiyah, whose windu puts its leap years elsewhere.
-bool InArbangiyah(int year) { return year >= 1747 && year <= 1866; }
+bool InArbangiyah(int year) {
+  return year >= 1747 && year <= 1866;
+}
 
 bool JavLeap(int year) {
   const int t = JavaneseTaun(year);
@@ -55,8 +57,16 @@ int JavDaysInMonth(CalendarEngine&, int year, int month) {
   if (JavaneseTaun(year) == 5 && InArbangiyah(year)) {
     // The Dal year of Arbangiyah: Sapar takes Mulud's thirtieth day.
     switch (month) {
-      case 1: case 2: case 5: case 7: case 9: case 11: case 12: return 30;
-      default: return 29;
+      case 1:
+      case 2:
+      case 5:
+      case 7:
+      case 9:
+      case 11:
+      case 12:
+        return 30;
+      default:
+        return 29;
     }
   }
   if (month == 12) return JavLeap(year) ? 30 : 29;
@@ -76,15 +86,23 @@ CalDate JavJDToDate(CalendarEngine& engine, JD jd) {
   return EstimateAndWalk(engine, CalType::Jav, jd, kJavaneseEpoch, 354, 1556);
 }
 
-bool JavIsLeapYear(CalendarEngine&, int year) { return JavLeap(year); }
+bool JavIsLeapYear(CalendarEngine&, int year) {
+  return JavLeap(year);
+}
 
 }  // namespace
 
-int JavaneseTaun(int year) { return Cycle(year - 1554LL, 8); }
+int JavaneseTaun(int year) {
+  return Cycle(year - 1554LL, 8);
+}
 
-int JavaneseWindu(int year) { return (Cycle(year - 1555LL + 9, 32) - 1) / 8 + 1; }
+int JavaneseWindu(int year) {
+  return (Cycle(year - 1555LL + 9, 32) - 1) / 8 + 1;
+}
 
-int JavanesePasaran(JD jd) { return Cycle(jd + 1LL, 5); }
+int JavanesePasaran(JD jd) {
+  return Cycle(jd + 1LL, 5);
+}
 
 std::string_view JavaneseKurup(int year) {
   if (year < 1675) return "Jamingiyah";

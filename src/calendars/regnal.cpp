@@ -12,7 +12,9 @@ namespace {
 constexpr std::string_view kRegnalFile = "regnal.dat";
 
 // The line where the Gregorian reckoning starts.
-bool IsCalendarChange(const RegnalRecord& r) { return r.name == "George II" && r.firstYear == 26; }
+bool IsCalendarChange(const RegnalRecord& r) {
+  return r.name == "George II" && r.firstYear == 26;
+}
 
 std::optional<RegnalRecord> ParseRecord(std::string_view line) {
   std::vector<std::string_view> fields;
@@ -75,9 +77,9 @@ std::optional<std::vector<RegnalRecord>> ReadRegnalFile(Context& ctx) {
     if (IsCalendarChange(*r)) gregorian = true;
     r->gregorian = gregorian;
     const CalType type = gregorian ? CalType::Greg : CalType::Jul;
-    r->startJD = IsCalendarChange(*r) ? GregorianToJD(14, 9, 1752)
-                                      : engine.DateToJD(type, r->start.day, r->start.month,
-                                                        r->start.year);
+    r->startJD = IsCalendarChange(*r)
+                     ? GregorianToJD(14, 9, 1752)
+                     : engine.DateToJD(type, r->start.day, r->start.month, r->start.year);
     r->endJD = engine.DateToJD(type, r->end.day, r->end.month, r->end.year);
     records.push_back(std::move(*r));
   }

@@ -12,12 +12,12 @@ using cycles::FloorMod;
 
 std::string ToRoman(int n) {
   if (n < 1 || n > 3999) return "****";
-  static constexpr std::array<std::string_view, 10> kUnits = {
-      "", "I", "II", "III", "IV", "V", "VI", "VII", "VIII", "IX"};
-  static constexpr std::array<std::string_view, 10> kTens = {
-      "", "X", "XX", "XXX", "XL", "L", "LX", "LXX", "LXXX", "XC"};
-  static constexpr std::array<std::string_view, 10> kHundreds = {
-      "", "C", "CC", "CCC", "CD", "D", "DC", "DCC", "DCCC", "CM"};
+  static constexpr std::array<std::string_view, 10> kUnits = {"",  "I",  "II",  "III",  "IV",
+                                                              "V", "VI", "VII", "VIII", "IX"};
+  static constexpr std::array<std::string_view, 10> kTens = {"",  "X",  "XX",  "XXX",  "XL",
+                                                             "L", "LX", "LXX", "LXXX", "XC"};
+  static constexpr std::array<std::string_view, 10> kHundreds = {"",  "C",  "CC",  "CCC",  "CD",
+                                                                 "D", "DC", "DCC", "DCCC", "CM"};
   static constexpr std::array<std::string_view, 4> kThousands = {"", "M", "MM", "MMM"};
   std::string out(kThousands[static_cast<std::size_t>(n / 1000)]);
   out += kHundreds[static_cast<std::size_t>(n / 100 % 10)];
@@ -91,10 +91,14 @@ std::string RomanDate(int day, int month, int year) {
     text = "Idus " + thisMonth;
   } else if (month == 2 && leap) {
     // The leap day doubles the sixth day before the Kalends of March.
-    if (day <= 24) text = ToRoman(30 - day) + " Kalendas " + nextMonth;
-    else if (day == 25) text = "bis " + ToRoman(6) + " Kalendas " + nextMonth;
-    else if (day <= 28) text = ToRoman(31 - day) + " Kalendas " + nextMonth;
-    else text = "pridie Kalendas " + nextMonth;
+    if (day <= 24)
+      text = ToRoman(30 - day) + " Kalendas " + nextMonth;
+    else if (day == 25)
+      text = "bis " + ToRoman(6) + " Kalendas " + nextMonth;
+    else if (day <= 28)
+      text = ToRoman(31 - day) + " Kalendas " + nextMonth;
+    else
+      text = "pridie Kalendas " + nextMonth;
   } else if (day < length) {
     text = ToRoman(length + 2 - day) + " Kalendas " + nextMonth;
   } else {
@@ -105,11 +109,21 @@ std::string RomanDate(int day, int month, int year) {
   return text;
 }
 
-int JulianPeriod(int year) { return FloorMod(year + 4712LL, 7980) + 1; }
-int DionysianPeriod(int year) { return FloorMod(year - 1140LL, 532) + 1; }
-int GoldenNumber(int year) { return FloorMod(year, 19) + 1; }
-int SolarNumber(int year) { return FloorMod(year + 8LL, 28) + 1; }
-int RomanIndiction(int year) { return FloorMod(year + 2LL, 15) + 1; }
+int JulianPeriod(int year) {
+  return FloorMod(year + 4712LL, 7980) + 1;
+}
+int DionysianPeriod(int year) {
+  return FloorMod(year - 1140LL, 532) + 1;
+}
+int GoldenNumber(int year) {
+  return FloorMod(year, 19) + 1;
+}
+int SolarNumber(int year) {
+  return FloorMod(year + 8LL, 28) + 1;
+}
+int RomanIndiction(int year) {
+  return FloorMod(year + 2LL, 15) + 1;
+}
 
 int JulianEpact(int year) {
   int e = FloorMod(11LL * (GoldenNumber(year) - 1), 30);

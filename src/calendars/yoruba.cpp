@@ -56,7 +56,9 @@ JD YorDateToJD(CalendarEngine&, int day, int week, int year) {
   return j0 + a + 4 * (w - 2) + day;
 }
 
-bool YorIsLeapYear(CalendarEngine&, int year) { return IsGregorianLeap(year - kYearOffset); }
+bool YorIsLeapYear(CalendarEngine&, int year) {
+  return IsGregorianLeap(year - kYearOffset);
+}
 
 // Days of a week that exist: the first week may be short, the week skipped
 // at the step and the days around it are missing.
@@ -72,7 +74,9 @@ int YorDaysInWeek(CalendarEngine& engine, int year, int week) {
 
 }  // namespace
 
-int YorubaFirstDay(int year) { return Cycle(GregorianToJD(1, 1, year - kYearOffset), 4); }
+int YorubaFirstDay(int year) {
+  return Cycle(GregorianToJD(1, 1, year - kYearOffset), 4);
+}
 
 std::string YorubaText(Context& ctx, JD jd) {
   CalDate d = Calendars(ctx).JDToDate(CalType::Yor, jd);

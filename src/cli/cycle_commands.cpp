@@ -104,13 +104,17 @@ int CyclesOfDay(CliEnv& env, const std::string& text) {
 std::vector<CliCommand> CycleCommands() {
   using Args = const std::vector<std::string>&;
   return {
-      {"roman", "roman NUMBER|NUMERAL", "a number 1 to 3999 in Roman numerals, or a numeral's value",
+      {"roman", "roman NUMBER|NUMERAL",
+       "a number 1 to 3999 in Roman numerals, or a numeral's value",
        [](CliEnv& env, Args a) { return a.size() == 1 ? Roman(env, a[0]) : kExitUsage; }},
       {"roman-date", "roman-date D/M/Y", "a Julian date in the Roman form, with its year AUC",
-       [](CliEnv& env, Args a) { return a.size() == 1 ? RomanDateCommand(env, a[0]) : kExitUsage; }},
+       [](CliEnv& env, Args a) {
+         return a.size() == 1 ? RomanDateCommand(env, a[0]) : kExitUsage;
+       }},
       {"regnal", "regnal JD", "the English or British regnal year of a Julian Day",
        [](CliEnv& env, Args a) { return a.size() == 1 ? Regnal(env, a[0]) : kExitUsage; }},
-      {"cycles", "cycles JD", "the Mayan, Aztec, Balinese, Javanese and Yoruba days of a Julian Day",
+      {"cycles", "cycles JD",
+       "the Mayan, Aztec, Balinese, Javanese and Yoruba days of a Julian Day",
        [](CliEnv& env, Args a) { return a.size() == 1 ? CyclesOfDay(env, a[0]) : kExitUsage; }},
   };
 }

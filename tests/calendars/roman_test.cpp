@@ -24,9 +24,9 @@ TEST(RomanNumerals, EveryNumberRoundTrips) {
 }
 
 TEST(RomanNumerals, MalformedNumeralsAreRefused) {
-  for (const char* bad : {"", "IIII", "MMMM", "VV", "IL", "IC", "XM", "VX", "CDC", "CMC", "XLX",
-                          "XCX", "IVI", "IXI", "LXL", "DCD", "IIV", "MCMC", "XIIII", "ABC", " X",
-                          "X ", "MMMCMXCIXI"})
+  for (const char* bad : {"",    "IIII", "MMMM",  "VV",  "IL",  "IC",  "XM",        "VX",
+                          "CDC", "CMC",  "XLX",   "XCX", "IVI", "IXI", "LXL",       "DCD",
+                          "IIV", "MCMC", "XIIII", "ABC", " X",  "X ",  "MMMCMXCIXI"})
     EXPECT_EQ(FromRoman(bad), 0) << bad;
   EXPECT_EQ(FromRoman("mdcclxxvi"), 1776);
 }

@@ -57,7 +57,8 @@ TEST_F(CycleCli, RomanNumeralsBothWays) {
             "Error Detected!: Number must be an integer in the range 1 to 3999.\n");
   EXPECT_EQ(Cli({"roman", "2.5"}).err,
             "Error Detected!: Number must be an integer in the range 1 to 3999.\n");
-  EXPECT_EQ(Cli({"roman", "-3"}).err, "Error Detected!: Number to be converted must be positive.\n");
+  EXPECT_EQ(Cli({"roman", "-3"}).err,
+            "Error Detected!: Number to be converted must be positive.\n");
   EXPECT_EQ(Cli({"roman-date", "15/3/44"}).out, "Idus Martiae, DCCXCVII AUC.\n");
 }
 
