@@ -12,5 +12,6 @@ void RegisterSolarFixedRules(RulesTable& table);
 void RegisterHebrewRules(RulesTable& table);
 void RegisterIslamicRules(RulesTable& table);
 void RegisterHinduRules(RulesTable& table);
+void RegisterCycleRules(RulesTable& table);
 
 }  // namespace mc

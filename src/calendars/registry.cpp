@@ -16,6 +16,7 @@ const RulesTable& AllRules() {
     RegisterHebrewRules(t);
     RegisterIslamicRules(t);
     RegisterHinduRules(t);
+    RegisterCycleRules(t);
     return t;
   }();
   return table;

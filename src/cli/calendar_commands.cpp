@@ -2,6 +2,7 @@
 #include <optional>
 #include <ostream>
 
+#include "calendars/cycles.h"
 #include "calendars/date_text.h"
 #include "calendars/gregorian.h"
 #include "cli/commands.h"
@@ -12,13 +13,20 @@ namespace mc {
 
 namespace {
 
+// Codes converted through cycles.h: the long count both ways, the day cycles
+// from a day number only.
+bool IsCycleCode(CalType t) {
+  return t == CalType::May || t == CalType::Haab || t == CalType::Tzo || t == CalType::Ton ||
+         t == CalType::Xih;
+}
+
 std::optional<CalType> CalendarOf(CliEnv& env, const std::string& code) {
   auto type = CalTypeOfCode(code);
   if (!type) {
     env.err << "codex-cli: unknown calendar code " << code << " (see codex-cli calendars)\n";
     return std::nullopt;
   }
-  if (*type != CalType::JDA && !Calendars(env.ctx).HasRules(*type)) {
+  if (*type != CalType::JDA && !IsCycleCode(*type) && !Calendars(env.ctx).HasRules(*type)) {
     env.err << "codex-cli: calendar " << code << " is not available in this version\n";
     return std::nullopt;
   }
@@ -29,7 +37,14 @@ int ToJD(CliEnv& env, const std::string& code, const std::string& text) {
   auto type = CalendarOf(env, code);
   if (!type) return kExitRefused;
   JD jd = 0;
-  if (*type == CalType::JDA) {
+  if (*type == CalType::May) {
+    auto day = LongCountTextToJD(env.ctx, text);
+    if (!day) return kExitRefused;
+    jd = *day;
+  } else if (IsCycleCode(*type)) {
+    env.err << "codex-cli: " << code << " gives dates of a day number only (use from-jd)\n";
+    return kExitRefused;
+  } else if (*type == CalType::JDA) {
     jd = CheckJDText(env.ctx, text);
     if (jd == 0) {
       if (Trim(text).empty())
@@ -40,6 +55,10 @@ int ToJD(CliEnv& env, const std::string& code, const std::string& text) {
     auto date = ParseDateText(env.ctx, *type, text);
     if (!date) return kExitRefused;
     jd = Calendars(env.ctx).DateToJD(*type, date->day, date->month, date->year);
+    if (*type == CalType::Bal && jd == -1) {
+      ShowError(env.ctx, Err("Second day of a Balinese Saka pengunalatri."));
+      return kExitRefused;
+    }
   }
   env.out << jd << '\n';
   return kExitOk;
@@ -84,6 +103,8 @@ int FromJD(CliEnv& env, const std::string& code, const std::string& fromText,
     if (range) buffer += std::to_string(jd) + '\t';
     if (*type == CalType::JDA)
       buffer += std::to_string(jd);
+    else if (IsCycleCode(*type))
+      buffer += CycleDateText(env.ctx, *type, static_cast<JD>(jd));
     else
       buffer += FormatDateText(env.ctx, *type, engine.JDToDate(*type, static_cast<JD>(jd)));
     buffer += '\n';

@@ -38,5 +38,6 @@ inline constexpr int kExitUsage = -1;
 
 std::vector<CliCommand> CalendarCommands();
 std::vector<CliCommand> ReminderCommands();
+std::vector<CliCommand> CycleCommands();
 
 }  // namespace mc
