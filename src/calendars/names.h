@@ -122,9 +122,6 @@ inline constexpr NameList<12> kVietnameseBranchesPlain = {
     "Ty   Snake", "Ngo. Horse", "Mui  Goat",    "Than Monkey", "Da.u Rooster", "Tuât Dog",
     "Ho:i Pig"};
 
-// The same text with accented Latin letters replaced by their plain forms
-// ("Vendémiaire" -> "Vendemiaire", "Çarsamba" -> "Carsamba").
-std::string PlainLetters(std::string_view text);
 
 // Baha'i: months (the day names are the same list), weekdays, years of the Vahid.
 inline constexpr NameList<20> kBahaiMonths = {
@@ -360,5 +357,14 @@ inline constexpr NameList<12> kYorubaMonths = {"",      "Sere",  "Erele", "Erena
 inline constexpr NameList<12> kRomanMonths = {
     "",       "Ianuariae", "Februariae", "Martiae",  "Apriles",   "Maiae",    "Iuniae",
     "Iuliae", "Augustae",  "Septembres", "Octobres", "Novembres", "Decembres"};
+
+// Indian National calendar months, Chaitra first as the year begins.
+inline constexpr NameList<12> kIndianMonths = {
+    "", "Chaitra", "Vaisakha", "Jyaishtha", "Ashadha", "Shravana", "Bhadra",
+    "Ashvin", "Kartika", "Agrahayana", "Pausha", "Magha", "Phalguna"};
+
+// The same text with accented Latin letters replaced by their plain forms
+// ("Vendémiaire" -> "Vendemiaire", "Çarsamba" -> "Carsamba").
+std::string PlainLetters(std::string_view text);
 
 }  // namespace mc

@@ -3,6 +3,7 @@
 #include <ostream>
 
 #include "calendars/cycles.h"
+#include "calendars/date_conversions.h"
 #include "calendars/date_text.h"
 #include "calendars/gregorian.h"
 #include "cli/commands.h"
@@ -136,6 +137,33 @@ int ListCalendars(CliEnv& env) {
   return kExitOk;
 }
 
+// Prints a report as the output box shows it, CR LF or (--lf) LF line ends.
+void PrintReport(CliEnv& env, const std::string& report) {
+  if (!env.plainLineEnds) {
+    env.out << report;
+    return;
+  }
+  for (const auto& line : SplitLines(report)) env.out << line << '\n';
+}
+
+int DateConversions(CliEnv& env, const std::vector<std::string>& a) {
+  if (a.empty() || a.size() > 2) return kExitUsage;
+  auto type = CalTypeOfCode(a[0]);
+  DateConversionsScreen screen(env.ctx);
+  const ConversionCalendar* entry = nullptr;
+  for (const auto& c : ConversionCalendars())
+    if (type && c.type == *type) entry = &c;
+  if (!entry) {
+    env.err << "codex-cli: the Date Conversions list has no calendar " << a[0] << '\n';
+    return kExitRefused;
+  }
+  screen.SetCalendar(entry->name);
+  screen.dateText = a.size() == 2 ? a[1] : "";
+  if (!screen.ConvertDate()) return kExitRefused;
+  PrintReport(env, screen.Output());
+  return kExitOk;
+}
+
 }  // namespace
 
 std::vector<CliCommand> CalendarCommands() {
@@ -152,6 +180,8 @@ std::vector<CliCommand> CalendarCommands() {
        }},
       {"today", "today", "today's Gregorian date and Julian Day",
        [](CliEnv& env, Args a) { return a.empty() ? Today(env) : kExitUsage; }},
+      {"report date-conversions", "report date-conversions CALTYPE [TEXT]",
+       "the Date Conversions report of a date (today when no TEXT)", DateConversions},
       {"calendars", "calendars", "the calendar codes with their names and years",
        [](CliEnv& env, Args a) { return a.empty() ? ListCalendars(env) : kExitUsage; }},
   };

@@ -125,6 +125,11 @@ int RunCli(const std::vector<std::string>& args, std::ostream& out, std::ostream
   auto options = ParseOptions(args, commands, out, err, status);
   if (!options) return status;
 
+  // "report NAME" is one command of two words.
+  if (options->command[0] == "report" && options->command.size() > 1) {
+    options->command[1] = "report " + options->command[1];
+    options->command.erase(options->command.begin());
+  }
   const CliCommand* command = nullptr;
   for (const auto& c : commands)
     if (c.name == options->command[0]) command = &c;
