@@ -9,6 +9,7 @@
 #include "core/safe_file.h"
 #include "core/text_util.h"
 #include "shell/ini_upgrade.h"
+#include "shell/password.h"
 
 namespace mc {
 
@@ -142,6 +143,8 @@ StartOutcome StartProgram(Context& ctx, const StartOptions& options) {
   ctx.settings.debugOn = ReadIniFile(ctx, 0, "Debug") == "Yes";
   SetBasicData(ctx, options);
   ctx.Trace("Main form load. SetBasicData has completed.");
+  if (options.checkPassword && !CheckStartupPassword(ctx, ProgramUserSettings()))
+    return StartOutcome::PasswordRefused;
 
   // The factoring engine is written out only while it runs.
   RemoveIfExists(ctx.FilePath("yafu-32k-Win32.exe"));

@@ -11,8 +11,9 @@ namespace mc {
 
 enum class StartOutcome {
   Ready,
-  MissingFolder,   // "Installation folder not found." was shown
-  MissingIniFile,  // "File mercod.ini not found. ..." was shown
+  MissingFolder,    // "Installation folder not found." was shown
+  MissingIniFile,   // "File mercod.ini not found. ..." was shown
+  PasswordRefused,  // the start-up password was not given; the program ends
 };
 
 struct StartOptions {
@@ -20,6 +21,8 @@ struct StartOptions {
   bool detectLocale = true;
   // A date order to use instead of the locale's (one of the six).
   std::optional<std::string> dateOrder;
+  // Asks for the start-up password when one is set (the desktop program).
+  bool checkPassword = false;
 };
 
 // The load sequence up to a filled settings block, with its trace lines.
