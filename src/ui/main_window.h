@@ -6,6 +6,7 @@
 #include <QMainWindow>
 #include <map>
 
+#include "shell/backup.h"
 #include "shell/main_screen.h"
 #include "ui/desktop.h"
 #include "ui/menus.h"
@@ -35,6 +36,9 @@ class MainWindow : public QMainWindow {
   QAction* ActionNamed(const QString& name) const;
   QMenu* FavouritesMenu() const { return favourites_; }
   QTimer* Timer() const { return timer_; }
+  // Shows the favourites the settings file asks for; the Favourites Options
+  // screen calls it at each change.
+  void ApplyFavourites();
 
  protected:
   void changeEvent(QEvent* event) override;
@@ -43,8 +47,11 @@ class MainWindow : public QMainWindow {
 
  private:
   void BuildMenus();
-  void ApplyFavourites();
   void Run(const MenuEntry& entry);
+  // The output box's font for the present font mode ("FW", "PW", "UFW", "UPW").
+  void ApplyOutputFont();
+  void Restore(RestoreKind kind);
+  void CheckForUpdates();
   bool Implemented(const MenuEntry& entry) const;
   void ToggleEnlarged();
   void ToTray();
@@ -62,6 +69,8 @@ class MainWindow : public QMainWindow {
   QSystemTrayIcon* tray_ = nullptr;
   QRect normalGeometry_;
   bool enlarged_ = false;
+  std::string fontMode_ = "FW";
+  bool checkingUpdates_ = false;
 };
 
 }  // namespace mc::ui
