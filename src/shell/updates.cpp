@@ -31,6 +31,7 @@ std::optional<long long> FirstNumber(std::string_view text) {
 
 UpdateOutcome CheckForUpdates(Context& ctx, long timeoutSeconds) {
   ctx.Trace("CheckForUpdates entered.");
+  ctx.ClearCancel();  // a Ctrl+T from before does not stop this one
   const std::string address = UpdateCheckAddress(ctx);
   const auto file = ctx.FilePath("version.txt");
   DownloadOptions options;

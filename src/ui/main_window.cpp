@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QGridLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -297,6 +298,15 @@ void MainWindow::showEvent(QShowEvent* event) {
       QTimer::singleShot(0, this, [this] { desktop_.Open(42); });
     }
   }
+}
+
+void MainWindow::keyPressEvent(QKeyEvent* event) {
+  // Ctrl+T stops long work that yields to events (Check for Updates and the like).
+  if (event->key() == Qt::Key_T && (event->modifiers() & Qt::ControlModifier)) {
+    ctx_.RequestCancel();
+    return;
+  }
+  QMainWindow::keyPressEvent(event);
 }
 
 void MainWindow::ToggleEnlarged() {
