@@ -341,7 +341,13 @@ void MainWindow::ToTray() {
     auto* menu = new QMenu(this);
     menu->setObjectName("mnuPopup");
     menu->addAction("Restore", this, &MainWindow::FromTray)->setObjectName("mnuRestore");
-    menu->addAction("Exit", qApp, &QApplication::quit)->setObjectName("mnuExit");
+    QAction* exit = menu->addAction("Exit");
+    exit->setObjectName("mnuExit");
+    connect(exit, &QAction::triggered, this, [this] {
+      // No clean-up on this way out, but changed notes are kept.
+      if (auto* notes = qobject_cast<QuickNotesForm*>(desktop_.Loaded(25))) notes->SaveIfChanged();
+      qApp->quit();
+    });
     tray_->setContextMenu(menu);
     connect(tray_, &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason r) {
       if (r == QSystemTrayIcon::DoubleClick || r == QSystemTrayIcon::Trigger) FromTray();
