@@ -11,6 +11,7 @@
 #include "core/text_util.h"
 #include "reminders/store.h"
 #include "shell/ini_upgrade.h"
+#include "shell/password.h"
 
 namespace mc {
 
@@ -155,6 +156,8 @@ StartOutcome StartProgram(Context& ctx, const StartOptions& options) {
   const bool dataLoaded = SetBasicData(ctx, options);
   ctx.Trace("Main form load. SetBasicData has completed.");
   if (!dataLoaded) return StartOutcome::BadDataFile;
+  if (options.checkPassword && !CheckStartupPassword(ctx, ProgramUserSettings()))
+    return StartOutcome::PasswordRefused;
 
   // The factoring engine is written out only while it runs.
   RemoveIfExists(ctx.FilePath("yafu-32k-Win32.exe"));

@@ -15,6 +15,7 @@ enum class StartOutcome {
   MissingIniFile,  // "File mercod.ini not found. ..." was shown
   BadDataFile,     // a data file read at start (ummalqur.dat) is missing or damaged;
                    // the run-time error box was shown
+  PasswordRefused,  // the start-up password was not given; the program ends
 };
 
 struct StartOptions {
@@ -22,6 +23,8 @@ struct StartOptions {
   bool detectLocale = true;
   // A date order to use instead of the locale's (one of the six).
   std::optional<std::string> dateOrder;
+  // Asks for the start-up password when one is set (the desktop program).
+  bool checkPassword = false;
 };
 
 // The load sequence up to a filled settings block, with its trace lines.

@@ -1,12 +1,24 @@
 // The screens of the desktop that are built, by form number.
 #include "ui/date_conversions_form.h"
 #include "ui/desktop.h"
+#include "ui/options_forms.h"
+#include "ui/password_form.h"
+#include "ui/quick_notes_form.h"
+#include "ui/tip_form.h"
 
 namespace mc::ui {
 
 const std::map<int, Desktop::Factory>& Desktop::Screens() {
   static const std::map<int, Factory> screens = {
       {12, [](Desktop& d) -> ScreenForm* { return new DateConversionsForm(d); }},
+      {25, [](Desktop& d) -> ScreenForm* { return new QuickNotesForm(d); }},
+      {40, [](Desktop& d) -> ScreenForm* { return new GeneralOptionsForm(d); }},
+      {41, [](Desktop& d) -> ScreenForm* { return new ColourOptionsForm(d); }},
+      {42, [](Desktop& d) -> ScreenForm* { return new TipForm(d); }},
+      {43, [](Desktop& d) -> ScreenForm* { return new FavouritesOptionsForm(d); }},
+      {46, [](Desktop& d) -> ScreenForm* { return new FontOptionsForm(d, 46); }},
+      {47, [](Desktop& d) -> ScreenForm* { return new FontOptionsForm(d, 47); }},
+      {63, [](Desktop& d) -> ScreenForm* { return new PasswordForm(d); }},
   };
   return screens;
 }
