@@ -49,7 +49,8 @@ class ExpressionCalculatorScreen {
   bool ignoreMarkedLines = false;
   // The session box as the user edited it.
   void SetSessionText(std::string_view text) { session_.SetText(text); }
-  // A line typed at the end of the session box.
+  // A line typed on a line of its own at the end of the session box, with
+  // the line break of the Enter key (Calculate follows).
   void TypeLine(std::string_view line) { session_.TypeLine(line); }
 
   // --- Commands ---

@@ -52,6 +52,7 @@ void ExpressionSession::SetText(std::string_view text) {
 void ExpressionSession::TypeLine(std::string_view line) {
   if (!text_.empty() && !EndsWithLineBreak(text_)) text_ += kCrLf;
   text_ += line;
+  text_ += kCrLf;
 }
 
 LineResult ExpressionSession::Enter(std::string prefix, std::string_view line) {

@@ -23,7 +23,8 @@ class ExpressionSession {
   const std::string& Text() const { return text_; }
   // The box as the user left it; LF line ends become CR LF.
   void SetText(std::string_view text);
-  // A line typed at the end of the session.
+  // A line typed on a line of its own at the end of the session, ended by
+  // the line break the Enter key puts in the box; Calculate then works on it.
   void TypeLine(std::string_view line);
 
   // Calculates the last line of the text (the line above it when the last
