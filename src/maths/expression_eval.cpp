@@ -97,7 +97,7 @@ bool ExpressionEngine::EvalPostfix(const std::vector<std::string>& postfix,
 
   for (std::size_t k = 0; k < postfix.size(); ++k) {
     const std::string& t = postfix[k];
-    if (!IsNameToken(t)) {
+    if (MayBeNumber(t, sep)) {
       if (auto v = ParseStrictNumber(t, sep)) {
         if (!push(*v)) return false;
         continue;
@@ -367,7 +367,8 @@ bool ExpressionEngine::Solve(const std::vector<std::string>& postfix, std::size_
   if (assigns) ++fPos, ++gPos;
   const UserFunction* f = fPos < at ? FindFunction(postfix[fPos]) : nullptr;
   std::optional<double> start;
-  if (gPos < at && !IsNameToken(postfix[gPos])) start = ParseStrictNumber(postfix[gPos], Sep());
+  if (gPos < at && MayBeNumber(postfix[gPos], Sep()))
+    start = ParseStrictNumber(postfix[gPos], Sep());
   if (!f || !start) return Fail(Err("Invalid arithmetic expression."));
   double g = negative ? -*start : *start;
   const std::string name = f->name;

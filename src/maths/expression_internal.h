@@ -48,6 +48,13 @@ inline std::size_t ScanNumber(std::string_view s, std::size_t i, char sep) {
   return i;
 }
 
+// A quick test before the full numeric one: a digit or the separator,
+// after an optional sign, starts every number token.
+inline bool MayBeNumber(std::string_view t, char sep) {
+  std::size_t i = !t.empty() && (t[0] == '+' || t[0] == '-') ? 1 : 0;
+  return i < t.size() && (IsDigit(t[i]) || t[i] == sep);
+}
+
 // The separator that is not the user's.
 inline char OtherSeparator(char sep) {
   return sep == ',' ? '.' : ',';

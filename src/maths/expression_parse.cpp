@@ -194,7 +194,9 @@ bool ExpressionEngine::CheckInput(const std::vector<std::string>& tokens) {
   const int invalid = Err("Invalid arithmetic expression.");
   const std::size_t n = tokens.size();
   const char sep = Sep();
-  auto isNumber = [&](const std::string& t) { return IsStrictNumeric(t, sep); };
+  auto isNumber = [&](const std::string& t) {
+    return MayBeNumber(t, sep) && IsStrictNumeric(t, sep);
+  };
   auto isName = [](const std::string& t) { return IsNameToken(t) && t != "mod"; };
   if (n == 0) return true;
   if (n == 1) return isNumber(tokens[0]) || isName(tokens[0]) ? true : Fail(invalid);
@@ -273,7 +275,7 @@ bool ExpressionEngine::InfixToPostfix(const std::vector<std::string>& tokens,
     return true;
   };
   for (const auto& t : tokens) {
-    if (!IsNameToken(t) && IsStrictNumeric(t, sep)) {
+    if (MayBeNumber(t, sep) && IsStrictNumeric(t, sep)) {
       if (!toPostfix(t)) return false;
     } else if (IsOpener(t)) {
       if (!push(t)) return false;

@@ -123,7 +123,7 @@ bool NumericToPostfix(Context& ctx, const std::vector<std::string>& tokens,
     return true;
   };
   for (const auto& t : tokens) {
-    if (IsStrictNumeric(t, sep)) {
+    if (MayBeNumber(t, sep) && IsStrictNumeric(t, sep)) {
       if (!toPostfix(t)) return false;
     } else if (t == "(") {
       if (!push(t)) return false;
@@ -168,7 +168,7 @@ std::optional<double> EvaluateNumericPostfix(Context& ctx,
     return std::nullopt;
   };
   for (const auto& t : postfix) {
-    if (auto v = ParseStrictNumber(t, sep)) {
+    if (auto v = MayBeNumber(t, sep) ? ParseStrictNumber(t, sep) : std::nullopt) {
       if (static_cast<int>(stack.size()) >= kMaxSub) {
         ShowError(ctx, Err("Stack array subscript exceeds MaxSub."));
         return std::nullopt;
