@@ -7,9 +7,9 @@
 namespace mc::test {
 namespace {
 
-using Expr = ExpressionTest;
+using ExpressionLanguage = ExpressionTest;
 
-TEST_F(Expr, PrecedenceAndAssociativity) {
+TEST_F(ExpressionLanguage, PrecedenceAndAssociativity) {
   EXPECT_EQ(Run("2^3^2"), "==> 64");  // left to right: (2^3)^2
   EXPECT_EQ(Run("-2^2"), "==> -4");   // unary minus binds like binary minus
   EXPECT_EQ(Run("2^(-3)"), "==> 0.125");
@@ -32,7 +32,7 @@ TEST_F(Expr, PrecedenceAndAssociativity) {
     EXPECT_EQ(Run(line), "! Invalid arithmetic expression.") << line;
 }
 
-TEST_F(Expr, TidyRebuildsTheLine) {
+TEST_F(ExpressionLanguage, TidyRebuildsTheLine) {
   auto tidy = [&](std::string_view line) { return engine->ProcessLine(line).shown; };
   EXPECT_EQ(tidy("7 MOD 3"), "7 mod 3");
   EXPECT_EQ(tidy("x=-2+3*4"), "x = -2 + 3 * 4");
@@ -46,7 +46,7 @@ TEST_F(Expr, TidyRebuildsTheLine) {
   EXPECT_EQ(tidy("2*/3   'bad"), "2*/3   'bad");
 }
 
-TEST_F(Expr, ConstantsAndNumberText) {
+TEST_F(ExpressionLanguage, ConstantsAndNumberText) {
   EXPECT_DOUBLE_EQ(*Value("pi"), 3.14159265358979);  // cut to 15 digits when typed
   EXPECT_DOUBLE_EQ(*Value("e"), 2.71828182845905);
   EXPECT_DOUBLE_EQ(*Value("phi"), 1.61803398874989);
@@ -54,7 +54,7 @@ TEST_F(Expr, ConstantsAndNumberText) {
   EXPECT_EQ(Run("1E3"), "==> 1000");
 }
 
-TEST_F(Expr, RoundingFunctionsAndTheirEdges) {
+TEST_F(ExpressionLanguage, RoundingFunctionsAndTheirEdges) {
   EXPECT_EQ(Run("int(-1.5)"), "==> -2");
   EXPECT_EQ(Run("floor(-1.5)"), "==> -2");
   EXPECT_EQ(Run("frac(-1.5)"), "==> 0.5");
@@ -73,7 +73,7 @@ TEST_F(Expr, RoundingFunctionsAndTheirEdges) {
   EXPECT_EQ(Run("recip(0)"), "! Denominator = 0 error using recip(x).");
 }
 
-TEST_F(Expr, PowersLogsAndRootsOnTheirDomains) {
+TEST_F(ExpressionLanguage, PowersLogsAndRootsOnTheirDomains) {
   EXPECT_EQ(Run("sqrt(0)"), "==> 0");
   EXPECT_EQ(Run("sqrt(-1)"), "! Argument < 0 error using sqrt(x).");
   EXPECT_EQ(Run("ln(1)"), "==> 0");
@@ -97,7 +97,7 @@ TEST_F(Expr, PowersLogsAndRootsOnTheirDomains) {
   EXPECT_EQ(Run("(-2147483648) \\ (-1)"), "! Overflow error (ProcNum = 2703).");
 }
 
-TEST_F(Expr, OverflowIsReportedNeverShown) {
+TEST_F(ExpressionLanguage, OverflowIsReportedNeverShown) {
   for (const char* line :
        {"10^400", "1E308*10", "exp(710)", "sinh(1000)", "cosh(-1000)", "tanh(400)", "square(1E200)",
         "arcsinh(1E200)", "1E308+1E308", "1/1E-320"})
@@ -107,7 +107,7 @@ TEST_F(Expr, OverflowIsReportedNeverShown) {
   EXPECT_EQ(Run("1E400"), "! Invalid numeric value.");
 }
 
-TEST_F(Expr, FactorialFibonacciLucas) {
+TEST_F(ExpressionLanguage, FactorialFibonacciLucas) {
   EXPECT_EQ(Run("fact(0)"), "==> 1");
   EXPECT_EQ(Run("fact(10)"), "==> 3628800");
   EXPECT_NEAR(*Value("fact(170)"), 7.257415615307994e306, 1e293);
@@ -131,7 +131,7 @@ TEST_F(Expr, FactorialFibonacciLucas) {
   EXPECT_EQ(Run("luc(1.5)"), "! Argument not integer error using luc(n).");
 }
 
-TEST_F(Expr, HyperbolicFunctionsAndInverses) {
+TEST_F(ExpressionLanguage, HyperbolicFunctionsAndInverses) {
   EXPECT_DOUBLE_EQ(*Value("sinh(1)"), std::sinh(1.0));
   EXPECT_DOUBLE_EQ(*Value("cosh(1)"), std::cosh(1.0));
   EXPECT_NEAR(*Value("tanh(0.5)"), std::tanh(0.5), 1e-15);
@@ -145,7 +145,7 @@ TEST_F(Expr, HyperbolicFunctionsAndInverses) {
   EXPECT_EQ(Run("arctanh(-1)"), "! Abs(Argument) >= 1 error using arctanh(x).");
 }
 
-TEST_F(Expr, TrigonometryInRadians) {
+TEST_F(ExpressionLanguage, TrigonometryInRadians) {
   EXPECT_DOUBLE_EQ(*Value("sin(1)"), std::sin(1.0));
   EXPECT_DOUBLE_EQ(*Value("tan(1)"), std::tan(1.0));
   EXPECT_EQ(Run("sin(30)"), "==> -0.9880316");
@@ -158,7 +158,7 @@ TEST_F(Expr, TrigonometryInRadians) {
   EXPECT_EQ(Run("arccos(-1.01)"), "! Abs(Argument) > 1 error using arccos(x).");
 }
 
-TEST_F(Expr, TrigonometryInDegrees) {
+TEST_F(ExpressionLanguage, TrigonometryInDegrees) {
   engine->angle = AngleMeasure::Degrees;
   // Whole degrees reduced into (-180, 180] give exact values.
   EXPECT_EQ(*Value("sin(30)"), 0.5);
@@ -188,7 +188,7 @@ TEST_F(Expr, TrigonometryInDegrees) {
   EXPECT_EQ(Run("arcsin(-1)"), "==> -90");
 }
 
-TEST_F(Expr, VariablesKeepFifteenDigits) {
+TEST_F(ExpressionLanguage, VariablesKeepFifteenDigits) {
   EXPECT_EQ(Run("x = 1/3"), "==> x = 0.3333333");
   ASSERT_EQ(engine->Variables().size(), 1u);
   EXPECT_EQ(engine->Variables()[0].value, "0.333333333333333");
@@ -206,7 +206,7 @@ TEST_F(Expr, VariablesKeepFifteenDigits) {
   EXPECT_EQ(Run("rate2 = 5 #"), "==> rate2 = 5");
 }
 
-TEST_F(Expr, AssignmentErrors) {
+TEST_F(ExpressionLanguage, AssignmentErrors) {
   EXPECT_EQ(Run("x = y = 1"), "! More than one equals sign detected.");
   EXPECT_EQ(Run("x + 1 = 2"), "! Invalid variable assignment or function definition statement.");
   EXPECT_EQ(Run("2 = x"), "! First token is not a variable name.");
@@ -216,7 +216,7 @@ TEST_F(Expr, AssignmentErrors) {
   EXPECT_EQ(Run("f(2) = 3"), "! Invalid parameter name in function definition.");
 }
 
-TEST_F(Expr, TablesHoldFiftyNames) {
+TEST_F(ExpressionLanguage, TablesHoldFiftyNames) {
   for (int i = 1; i <= 50; ++i)
     ASSERT_EQ(Run("v" + std::to_string(i) + " = " + std::to_string(i)),
               "==> v" + std::to_string(i) + " = " + std::to_string(i));
@@ -232,7 +232,7 @@ TEST_F(Expr, TablesHoldFiftyNames) {
   EXPECT_EQ(Run("f3(2)"), "==> 200");
 }
 
-TEST_F(Expr, UserFunctions) {
+TEST_F(ExpressionLanguage, UserFunctions) {
   EXPECT_EQ(Run("f(x) = x^2 - 2"), "==> Function f(x) accepted");
   EXPECT_EQ(engine->Functions()[0].definition, "x:x:2:^:2:--");
   EXPECT_EQ(Run("f(3)"), "==> 7");
@@ -265,7 +265,7 @@ TEST_F(Expr, UserFunctions) {
   EXPECT_NE(*Value("rand"), *Value("rand"));
 }
 
-TEST_F(Expr, ListingCommands) {
+TEST_F(ExpressionLanguage, ListingCommands) {
   EXPECT_EQ(Run("userfuncs"), "==> No user functions have been defined yet.");
   EXPECT_EQ(Run(" uservars "), "==> No user variables have been defined yet.");
   Run("zeta = 1");
@@ -286,7 +286,7 @@ TEST_F(Expr, ListingCommands) {
             (std::vector<std::string>{"==> " + long83, "==> " + long83 + "x", "==> p"}));
 }
 
-TEST_F(Expr, RootSearch) {
+TEST_F(ExpressionLanguage, RootSearch) {
   Run("f(x) = x^2 - 2");
   EXPECT_EQ(Run("solve(f;1)"), "==> 1.414214");
   EXPECT_TRUE(p.sink.messages.empty());
@@ -338,7 +338,7 @@ TEST_F(Expr, RootSearch) {
             "! Reserved word \"solve\" detected but no semi-colon found in input line.");
 }
 
-TEST_F(Expr, MalformedInputMessages) {
+TEST_F(ExpressionLanguage, MalformedInputMessages) {
   EXPECT_EQ(Run("1,5 + 1"),
             "! Incorrect decimal point symbol detected for current Windows regional settings.");
   EXPECT_EQ(Run("#5"), "! Invalid use of # symbol.");
@@ -359,7 +359,7 @@ TEST_F(Expr, MalformedInputMessages) {
   EXPECT_EQ(Run("+"), "! Invalid arithmetic expression.");
 }
 
-TEST_F(Expr, DecimalCommaThroughout) {
+TEST_F(ExpressionLanguage, DecimalCommaThroughout) {
   p.ctx.settings.decimalSeparator = ',';
   p.ctx.settings.usesDecimalPoint = false;
   EXPECT_EQ(Run("1,5 * 2,5"), "==> 3,75");

@@ -9,7 +9,7 @@
 namespace mc::test {
 namespace {
 
-class Screen : public ::testing::Test {
+class ExpressionScreen : public ::testing::Test {
  protected:
   void SetUp() override {
     p.Start();
@@ -28,7 +28,7 @@ class Screen : public ::testing::Test {
   std::unique_ptr<ExpressionCalculatorScreen> screen;
 };
 
-TEST_F(Screen, CalculateWritesResultsUnderTheLines) {
+TEST_F(ExpressionScreen, CalculateWritesResultsUnderTheLines) {
   Type({"x=2+3", "x*2   'double it", "", "'a note", "f(t)=t^2", "f(x)"});
   EXPECT_EQ(Text(),
             "x = 2 + 3\r\n==> x = 5\r\n"
@@ -62,7 +62,7 @@ TEST_F(Screen, CalculateWritesResultsUnderTheLines) {
   EXPECT_TRUE(screen->LastLineOk());
 }
 
-TEST_F(Screen, SignificantFiguresAndListings) {
+TEST_F(ExpressionScreen, SignificantFiguresAndListings) {
   screen->SetSignificantFigures(3);
   Type({"2/3", "uservars"});
   EXPECT_EQ(Text(),
@@ -70,7 +70,7 @@ TEST_F(Screen, SignificantFiguresAndListings) {
   EXPECT_EQ(screen->Clipboard(), "0.667");
 }
 
-TEST_F(Screen, RecalcAllFromTheTop) {
+TEST_F(ExpressionScreen, RecalcAllFromTheTop) {
   Type({"a = 2", "b = a * 10", "b + 1 #"});
   // The user edits the first line and recalculates everything.
   std::string text = Text();
@@ -95,7 +95,7 @@ TEST_F(Screen, RecalcAllFromTheTop) {
   EXPECT_EQ(Text(), "a = 1\r\n==> a = 1\r\n1 / 0\r\n==> 7\r\nb = 2\r\n");
 }
 
-TEST_F(Screen, SessionFilesRoundTrip) {
+TEST_F(ExpressionScreen, SessionFilesRoundTrip) {
   screen->SetAngle(AngleMeasure::Degrees);
   Type({"f(x) = sin(x) + 1", "y = f(30)   'half and one", "y*2"});
   const auto file = p.File("trig.shf");
@@ -131,7 +131,7 @@ TEST_F(Screen, SessionFilesRoundTrip) {
   EXPECT_EQ(p.Read("plain.shf"), "2 + 2\r\n==> 4\r\n");
 }
 
-TEST_F(Screen, LoadTakesEitherSeparatorAndAddsToTheSession) {
+TEST_F(ExpressionScreen, LoadTakesEitherSeparatorAndAddsToTheSession) {
   p.Write("comma.shf", "Radians\nx = 1,5 'keeps 1,5 here\n==> stale\ny = x * 2\n");
   Type({"z = 1"});
   p.sink.Clear();
@@ -156,7 +156,7 @@ TEST_F(Screen, LoadTakesEitherSeparatorAndAddsToTheSession) {
             "File " + p.File("missing.shf").string() + " not found error (ProcNum = 2706).");
 }
 
-TEST_F(Screen, SettingsComeFromAndGoToTheSettingsFile) {
+TEST_F(ExpressionScreen, SettingsComeFromAndGoToTheSettingsFile) {
   EXPECT_EQ(screen->SignificantFigures(), 7);
   EXPECT_EQ(screen->Angle(), AngleMeasure::Radians);
   screen->SetSignificantFigures(12);
@@ -172,7 +172,7 @@ TEST_F(Screen, SettingsComeFromAndGoToTheSettingsFile) {
   EXPECT_EQ(ExpressionCalculatorScreen::SignificantFigureChoices().size(), 14u);
 }
 
-TEST_F(Screen, KeypadAndCommandsByCaption) {
+TEST_F(ExpressionScreen, KeypadAndCommandsByCaption) {
   EXPECT_EQ(ExpressionCalculatorScreen::KeypadText("sin(x)"), "sin(");
   EXPECT_EQ(ExpressionCalculatorScreen::KeypadText("solve(f;x)"), "solve(");
   EXPECT_EQ(ExpressionCalculatorScreen::KeypadText("pi"), "pi");

@@ -106,7 +106,7 @@ TEST_F(NumericInput, DecimalNumbersWithEitherSeparator) {
   EXPECT_EQ(ParseDecimalNumber("N51", '.'), std::nullopt);
 }
 
-TEST(StartUp, HomeLocationReadWithEitherSeparator) {
+TEST(StartUpCoordinates, HomeLocationReadWithEitherSeparator) {
   TestProgram p;
   UpdateIniFile(p.ctx, 0, "Latitude", "51,4779");
   UpdateIniFile(p.ctx, 0, "Longitude", "-0.0015");
@@ -118,7 +118,7 @@ TEST(StartUp, HomeLocationReadWithEitherSeparator) {
   EXPECT_FLOAT_EQ(p.ctx.settings.homeTimeZone, 5.5f);
 }
 
-TEST(Random, ShuffledSourceInRangeAndSeededByTheClock) {
+TEST(NextRandom, ShuffledSourceInRangeAndSeededByTheClock) {
   TestProgram a, b;
   std::vector<double> first, second;
   for (int i = 0; i < 500; ++i) {
