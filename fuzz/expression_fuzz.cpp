@@ -70,9 +70,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
       Require(sink.shown >= 1);
       Require(r.output.empty());
     }
+    // A stored value reads back, unless its 15 digits round past the largest double.
     for (const auto& v : engine.Variables()) {
       auto value = mc::ParseStrictNumber(v.value, sep);
-      Require(value.has_value() && std::isfinite(*value));
+      Require(value ? std::isfinite(*value) : v.value.find("E+308") != std::string::npos);
     }
     Require(engine.Variables().size() <= 50 && engine.Functions().size() <= 50);
 

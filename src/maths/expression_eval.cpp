@@ -98,10 +98,12 @@ bool ExpressionEngine::EvalPostfix(const std::vector<std::string>& postfix,
   for (std::size_t k = 0; k < postfix.size(); ++k) {
     const std::string& t = postfix[k];
     if (MayBeNumber(t, sep)) {
-      if (auto v = ParseStrictNumber(t, sep)) {
-        if (!push(*v)) return false;
-        continue;
-      }
+      // Typed numbers were checked by Parse; a number that no longer reads
+      // is a 15-digit text rounded up past the largest double.
+      auto v = ParseStrictNumber(t, sep);
+      if (!v) return RunTimeFail(kOverflow, kProcEvaluate);
+      if (!push(*v)) return false;
+      continue;
     }
     if (t == "+") continue;
     if (t == "-") {
@@ -189,7 +191,9 @@ bool ExpressionEngine::EvalPostfix(const std::vector<std::string>& postfix,
       continue;
     }
     if (UserVariable* v = FindVariable(t)) {
-      if (!push(ParseStrictNumber(v->value, sep).value_or(0))) return false;
+      auto value = ParseStrictNumber(v->value, sep);
+      if (!value) return RunTimeFail(kOverflow, kProcEvaluate);
+      if (!push(*value)) return false;
       continue;
     }
     if (IsNameToken(t)) {
@@ -529,6 +533,12 @@ LineResult ExpressionEngine::ProcessLine(std::string_view line) {
     return r;
   }
   r.value = FormatSigFigs(sigFigs, *value, Sep());
+  if (!ParseStrictNumber(r.value, Sep())) {
+    // Rounded to fewer digits, a value next to the largest double goes past it.
+    RunTimeFail(kOverflow, kProcEvaluate);
+    r.value.clear();
+    return r;
+  }
   if (parsed.targetName.empty()) {
     r.kind = LineResult::Kind::Value;
     r.output.push_back("==> " + r.value);

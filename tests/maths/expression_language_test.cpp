@@ -105,6 +105,16 @@ TEST_F(ExpressionLanguage, OverflowIsReportedNeverShown) {
   EXPECT_EQ(Run("tanh(-400)"), "==> -1");
   EXPECT_EQ(Run("exp(-1000)"), "==> 0");
   EXPECT_EQ(Run("1E400"), "! Invalid numeric value.");
+  // The largest double is kept with 15 digits, which no longer reads back.
+  EXPECT_EQ(Run("top = 1.7976931348623157E308"), "==> top = 1.797693E308");
+  EXPECT_EQ(Run("top"), "! Overflow error (ProcNum = 2703).");
+  Run("id(x) = x");
+  EXPECT_EQ(Run("id(1.7976931348623157E308)"), "! Overflow error (ProcNum = 2703).");
+  EXPECT_EQ(Run("id(1.79769313486231E308)"), "==> 1.797693E308");
+  engine->sigFigs = 1;
+  EXPECT_EQ(Run("1.7E308"), "! Overflow error (ProcNum = 2703).");
+  EXPECT_EQ(Run("-1.7E308"), "! Overflow error (ProcNum = 2703).");
+  EXPECT_EQ(Run("1.4E308"), "==> 1.0E308");
 }
 
 TEST_F(ExpressionLanguage, FactorialFibonacciLucas) {
