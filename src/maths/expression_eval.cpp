@@ -3,6 +3,9 @@
 // whole.
 #include <cmath>
 #include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
 #include <limits>
 #include <numbers>
 
@@ -30,6 +33,20 @@ constexpr int kMaxCallDepth = 200;
 constexpr std::size_t kListingColumn = 90;
 
 constexpr double kPi = std::numbers::pi;
+
+// FormatSigFigs rounds the mantissa to the figures asked for and reads the
+// number back: next to the largest double that goes past it (1.7E308 to one
+// figure is 2E308), which the program has always treated as an overflow.
+bool RoundsPastLargest(int sigFigs, double value) {
+  if (sigFigs >= 14 || std::fabs(value) < 1e308) return false;
+  char buf[64];
+  std::snprintf(buf, sizeof buf, "%.13e", std::fabs(value));
+  *std::strchr(buf, 'e') = '\0';  // the mantissa alone
+  const double scale = std::pow(10.0, sigFigs - 1);
+  const double rounded = std::floor(scale * std::strtod(buf, nullptr) + 0.4999999999999) / scale;
+  std::snprintf(buf, sizeof buf, "%.15gE308", rounded);
+  return !std::isfinite(std::strtod(buf, nullptr));
+}
 
 }  // namespace
 
@@ -532,13 +549,11 @@ LineResult ExpressionEngine::ProcessLine(std::string_view line) {
     r.output.push_back("==> Function " + parsed.targetName + "(" + parsed.paramName + ") accepted");
     return r;
   }
-  r.value = FormatSigFigs(sigFigs, *value, Sep());
-  if (!ParseStrictNumber(r.value, Sep())) {
-    // Rounded to fewer digits, a value next to the largest double goes past it.
+  if (RoundsPastLargest(sigFigs, *value)) {
     RunTimeFail(kOverflow, kProcEvaluate);
-    r.value.clear();
     return r;
   }
+  r.value = FormatSigFigs(sigFigs, *value, Sep());
   if (parsed.targetName.empty()) {
     r.kind = LineResult::Kind::Value;
     r.output.push_back("==> " + r.value);
