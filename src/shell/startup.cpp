@@ -22,8 +22,8 @@ long long IniInt(Context& ctx, int form, const char* key) {
   return v;
 }
 
-// Latitude, longitude and zone: written with the user's decimal separator, or
-// with a point, which is how the place files hold them.
+// Latitude, longitude and zone: written with the user's decimal separator or
+// with the other one (the place files use a point); either reads.
 float IniCoordinate(Context& ctx, const char* key) {
   auto v = ParseDecimalNumber(ReadIniFile(ctx, 0, key), ctx.settings.decimalSeparator);
   return v ? static_cast<float>(*v) : 0.0f;
