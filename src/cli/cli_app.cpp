@@ -16,7 +16,7 @@ namespace {
 
 std::vector<CliCommand> AllCommands() {
   std::vector<CliCommand> all;
-  for (auto group : {CalendarCommands, ReminderCommands, CycleCommands}) {
+  for (auto group : {CalendarCommands, ReminderCommands, CycleCommands, ExpressionCommands}) {
     auto commands = group();
     all.insert(all.end(), commands.begin(), commands.end());
   }

@@ -6,9 +6,9 @@
 #include "core/errors.h"
 #include "core/ini_file.h"
 #include "core/locale_facts.h"
-#include "core/number_format.h"
 #include "core/safe_file.h"
 #include "core/text_util.h"
+#include "maths/expression.h"
 #include "reminders/store.h"
 #include "shell/ini_upgrade.h"
 #include "shell/password.h"
@@ -23,12 +23,10 @@ long long IniInt(Context& ctx, int form, const char* key) {
   return v;
 }
 
-// Latitude, longitude and zone: written with the user's decimal separator, or
-// with a point, which is how the place files hold them.
+// Latitude, longitude and zone: written with the user's decimal separator or
+// with the other one (the place files use a point); either reads.
 float IniCoordinate(Context& ctx, const char* key) {
-  std::string text = ReadIniFile(ctx, 0, key);
-  auto v = ParseStrictNumber(text, ctx.settings.decimalSeparator);
-  if (!v) v = ParseStrictNumber(text, '.');
+  auto v = ParseDecimalNumber(ReadIniFile(ctx, 0, key), ctx.settings.decimalSeparator);
   return v ? static_cast<float>(*v) : 0.0f;
 }
 
