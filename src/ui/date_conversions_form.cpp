@@ -75,6 +75,11 @@ DateConversionsForm::DateConversionsForm(Desktop& desktop)
   resize(860, 720);
 }
 
+void DateConversionsForm::showEvent(QShowEvent* event) {
+  ScreenForm::showEvent(event);
+  if (model_.Output().empty() && date_->text().isEmpty()) Convert();
+}
+
 void DateConversionsForm::CalendarChosen(const QString& name) {
   model_.SetCalendar(name.toStdString());
   prompt_->setText(Q(model_.Prompt()).replace("\r\n", "\n"));

@@ -23,6 +23,10 @@ class DateConversionsForm : public ScreenForm {
   void Convert();
   void Step(int delta);
 
+ protected:
+  // The first time the screen opens it shows today's conversions.
+  void showEvent(QShowEvent* event) override;
+
  private:
   void CalendarChosen(const QString& name);
   void ShowModel();
