@@ -25,8 +25,24 @@ std::vector<CliCommand> AllCommands() {
 
 void PrintUsage(std::ostream& out, const std::vector<CliCommand>& commands) {
   out << "usage: codex-cli [options] COMMAND [ARGS]\n\nCommands:\n";
+  // The synopsis, then the summary wrapped to 80 columns in a column of its own.
+  constexpr std::size_t kColumn = 30, kWidth = 80;
   for (const auto& c : commands) {
-    out << "  " << PadRight(c.synopsis, 34) << ' ' << c.summary << '\n';
+    std::string line = "  " + std::string(c.synopsis);
+    if (line.size() + 1 > kColumn) {
+      out << line << '\n';
+      line.clear();
+    }
+    line = PadRight(line, kColumn);
+    std::string_view rest = c.summary;
+    while (!rest.empty()) {
+      std::size_t room = kWidth - kColumn;
+      std::size_t cut = rest.size() <= room ? rest.size() : rest.rfind(' ', room);
+      if (cut == std::string_view::npos || cut == 0) cut = std::min(rest.size(), room);
+      out << line << rest.substr(0, cut) << '\n';
+      rest = Trim(rest.substr(cut));
+      line = std::string(kColumn, ' ');
+    }
   }
   out << R"(
 Options:
