@@ -433,6 +433,8 @@ JD FirstJD(Context& ctx, CalType type) {
       return engine.DateToJD(type, 1, 1, 64);
     case CalType::JDA:
       return FirstJulianDay();
+    case CalType::Yor:
+      return engine.DateToJD(type, 3, 1, 9625);  // 1 January 1583
     default:
       return engine.DateToJD(type, 1, 1, InfoOf(type).firstYear);
   }

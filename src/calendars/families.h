@@ -8,5 +8,10 @@ namespace mc {
 void RegisterGregorianRules(RulesTable& table);
 void RegisterAstroPersianRules(RulesTable& table);
 void RegisterChineseRules(RulesTable& table);
+void RegisterSolarFixedRules(RulesTable& table);
+void RegisterHebrewRules(RulesTable& table);
+void RegisterIslamicRules(RulesTable& table);
+void RegisterHinduRules(RulesTable& table);
+void RegisterCycleRules(RulesTable& table);
 
 }  // namespace mc

@@ -12,6 +12,11 @@ const RulesTable& AllRules() {
     RegisterGregorianRules(t);
     RegisterAstroPersianRules(t);
     RegisterChineseRules(t);
+    RegisterSolarFixedRules(t);
+    RegisterHebrewRules(t);
+    RegisterIslamicRules(t);
+    RegisterHinduRules(t);
+    RegisterCycleRules(t);
     return t;
   }();
   return table;

@@ -2,6 +2,8 @@
 #include <optional>
 #include <ostream>
 
+#include "calendars/cycles.h"
+#include "calendars/date_conversions.h"
 #include "calendars/date_text.h"
 #include "calendars/gregorian.h"
 #include "cli/commands.h"
@@ -12,13 +14,20 @@ namespace mc {
 
 namespace {
 
+// Codes converted through cycles.h: the long count both ways, the day cycles
+// from a day number only.
+bool IsCycleCode(CalType t) {
+  return t == CalType::May || t == CalType::Haab || t == CalType::Tzo || t == CalType::Ton ||
+         t == CalType::Xih;
+}
+
 std::optional<CalType> CalendarOf(CliEnv& env, const std::string& code) {
   auto type = CalTypeOfCode(code);
   if (!type) {
     env.err << "codex-cli: unknown calendar code " << code << " (see codex-cli calendars)\n";
     return std::nullopt;
   }
-  if (*type != CalType::JDA && !Calendars(env.ctx).HasRules(*type)) {
+  if (*type != CalType::JDA && !IsCycleCode(*type) && !Calendars(env.ctx).HasRules(*type)) {
     env.err << "codex-cli: calendar " << code << " is not available in this version\n";
     return std::nullopt;
   }
@@ -29,7 +38,14 @@ int ToJD(CliEnv& env, const std::string& code, const std::string& text) {
   auto type = CalendarOf(env, code);
   if (!type) return kExitRefused;
   JD jd = 0;
-  if (*type == CalType::JDA) {
+  if (*type == CalType::May) {
+    auto day = LongCountTextToJD(env.ctx, text);
+    if (!day) return kExitRefused;
+    jd = *day;
+  } else if (IsCycleCode(*type)) {
+    env.err << "codex-cli: " << code << " gives dates of a day number only (use from-jd)\n";
+    return kExitRefused;
+  } else if (*type == CalType::JDA) {
     jd = CheckJDText(env.ctx, text);
     if (jd == 0) {
       if (Trim(text).empty())
@@ -40,6 +56,10 @@ int ToJD(CliEnv& env, const std::string& code, const std::string& text) {
     auto date = ParseDateText(env.ctx, *type, text);
     if (!date) return kExitRefused;
     jd = Calendars(env.ctx).DateToJD(*type, date->day, date->month, date->year);
+    if (*type == CalType::Bal && jd == -1) {
+      ShowError(env.ctx, Err("Second day of a Balinese Saka pengunalatri."));
+      return kExitRefused;
+    }
   }
   env.out << jd << '\n';
   return kExitOk;
@@ -84,6 +104,8 @@ int FromJD(CliEnv& env, const std::string& code, const std::string& fromText,
     if (range) buffer += std::to_string(jd) + '\t';
     if (*type == CalType::JDA)
       buffer += std::to_string(jd);
+    else if (IsCycleCode(*type))
+      buffer += CycleDateText(env.ctx, *type, static_cast<JD>(jd));
     else
       buffer += FormatDateText(env.ctx, *type, engine.JDToDate(*type, static_cast<JD>(jd)));
     buffer += '\n';
@@ -115,6 +137,33 @@ int ListCalendars(CliEnv& env) {
   return kExitOk;
 }
 
+// Prints a report as the output box shows it, CR LF or (--lf) LF line ends.
+void PrintReport(CliEnv& env, const std::string& report) {
+  if (!env.plainLineEnds) {
+    env.out << report;
+    return;
+  }
+  for (const auto& line : SplitLines(report)) env.out << line << '\n';
+}
+
+int DateConversions(CliEnv& env, const std::vector<std::string>& a) {
+  if (a.empty() || a.size() > 2) return kExitUsage;
+  auto type = CalTypeOfCode(a[0]);
+  DateConversionsScreen screen(env.ctx);
+  const ConversionCalendar* entry = nullptr;
+  for (const auto& c : ConversionCalendars())
+    if (type && c.type == *type) entry = &c;
+  if (!entry) {
+    env.err << "codex-cli: the Date Conversions list has no calendar " << a[0] << '\n';
+    return kExitRefused;
+  }
+  screen.SetCalendar(entry->name);
+  screen.dateText = a.size() == 2 ? a[1] : "";
+  if (!screen.ConvertDate()) return kExitRefused;
+  PrintReport(env, screen.Output());
+  return kExitOk;
+}
+
 }  // namespace
 
 std::vector<CliCommand> CalendarCommands() {
@@ -131,6 +180,8 @@ std::vector<CliCommand> CalendarCommands() {
        }},
       {"today", "today", "today's Gregorian date and Julian Day",
        [](CliEnv& env, Args a) { return a.empty() ? Today(env) : kExitUsage; }},
+      {"report date-conversions", "report date-conversions CALTYPE [TEXT]",
+       "the Date Conversions report of a date (today when no TEXT)", DateConversions},
       {"calendars", "calendars", "the calendar codes with their names and years",
        [](CliEnv& env, Args a) { return a.empty() ? ListCalendars(env) : kExitUsage; }},
   };

@@ -16,7 +16,7 @@ namespace {
 
 std::vector<CliCommand> AllCommands() {
   std::vector<CliCommand> all;
-  for (auto group : {CalendarCommands, ReminderCommands}) {
+  for (auto group : {CalendarCommands, ReminderCommands, CycleCommands, ExpressionCommands}) {
     auto commands = group();
     all.insert(all.end(), commands.begin(), commands.end());
   }
@@ -25,8 +25,24 @@ std::vector<CliCommand> AllCommands() {
 
 void PrintUsage(std::ostream& out, const std::vector<CliCommand>& commands) {
   out << "usage: codex-cli [options] COMMAND [ARGS]\n\nCommands:\n";
+  // The synopsis, then the summary wrapped to 80 columns in a column of its own.
+  constexpr std::size_t kColumn = 30, kWidth = 80;
   for (const auto& c : commands) {
-    out << "  " << PadRight(c.synopsis, 34) << ' ' << c.summary << '\n';
+    std::string line = "  " + std::string(c.synopsis);
+    if (line.size() + 1 > kColumn) {
+      out << line << '\n';
+      line.clear();
+    }
+    line = PadRight(line, kColumn);
+    std::string_view rest = c.summary;
+    while (!rest.empty()) {
+      std::size_t room = kWidth - kColumn;
+      std::size_t cut = rest.size() <= room ? rest.size() : rest.rfind(' ', room);
+      if (cut == std::string_view::npos || cut == 0) cut = std::min(rest.size(), room);
+      out << line << rest.substr(0, cut) << '\n';
+      rest = Trim(rest.substr(cut));
+      line = std::string(kColumn, ' ');
+    }
   }
   out << R"(
 Options:
@@ -40,7 +56,7 @@ Options:
   --help, --version
 
 Messages go to stderr as "Caption: text". Exit status: 0 done, 1 input
-refused, 2 set-up failure (program folder or mercod.ini).
+refused, 2 set-up failure (program folder, mercod.ini or a data file).
 )";
 }
 
@@ -125,6 +141,11 @@ int RunCli(const std::vector<std::string>& args, std::ostream& out, std::ostream
   auto options = ParseOptions(args, commands, out, err, status);
   if (!options) return status;
 
+  // "report NAME" is one command of two words.
+  if (options->command[0] == "report" && options->command.size() > 1) {
+    options->command[1] = "report " + options->command[1];
+    options->command.erase(options->command.begin());
+  }
   const CliCommand* command = nullptr;
   for (const auto& c : commands)
     if (c.name == options->command[0]) command = &c;

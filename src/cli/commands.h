@@ -38,5 +38,9 @@ inline constexpr int kExitUsage = -1;
 
 std::vector<CliCommand> CalendarCommands();
 std::vector<CliCommand> ReminderCommands();
+std::vector<CliCommand> CycleCommands();
+std::vector<CliCommand> ExpressionCommands();
+// The expr command over a given input stream (standard input when no lines are given).
+int RunExpressionLines(CliEnv& env, const std::vector<std::string>& words, std::istream& in);
 
 }  // namespace mc

@@ -74,6 +74,7 @@ void PadInt(std::string& digits, int minInt) {
 }  // namespace
 
 std::string FormatWithMask(double value, std::string_view mask, char decimalSeparator) {
+  if (!std::isfinite(value)) return "Overflow";
   MaskShape s = ShapeOf(mask);
   bool negative = std::signbit(value) && value != 0;
   double a = std::fabs(value);
@@ -107,6 +108,7 @@ std::string FormatWithMask(double value, std::string_view mask, char decimalSepa
 }
 
 std::string FormatSigFigs(int sigFigs, double value, char decimalSeparator) {
+  if (!std::isfinite(value)) return "Overflow";
   if (std::floor(value) == value && value > -900719925474099.0 && value < 900719925474099.0) {
     return std::to_string(static_cast<long long>(value));
   }
@@ -120,7 +122,9 @@ std::string FormatSigFigs(int sigFigs, double value, char decimalSeparator) {
     char buf[64];
     std::snprintf(buf, sizeof buf, "%.15g", rounded);
     std::string text = std::string(value < 0 ? "-" : "") + buf + sci.substr(e);
-    value = std::strtod(text.c_str(), nullptr);
+    // Rounding up next to the largest double would overflow: keep the value.
+    const double back = std::strtod(text.c_str(), nullptr);
+    if (std::isfinite(back)) value = back;
   }
   static constexpr struct {
     double from;

@@ -50,6 +50,9 @@ struct SettingsBlock {
   std::string currentForm = "Form1";
   std::string inputReply;
   bool showTipPending = true;
+  // Set when a font option changes; screens re-apply their fonts at their
+  // next activation.
+  bool fontsChanged = false;
   // Name tables in plain letters rather than accented ones. Start-up leaves
   // it clear; the plain tables stay for users who need them.
   bool plainLetters = false;

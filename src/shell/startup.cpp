@@ -2,14 +2,16 @@
 
 #include <cmath>
 
+#include "calendars/islamic.h"
 #include "core/errors.h"
 #include "core/ini_file.h"
 #include "core/locale_facts.h"
-#include "core/number_format.h"
 #include "core/safe_file.h"
 #include "core/text_util.h"
+#include "maths/expression.h"
 #include "reminders/store.h"
 #include "shell/ini_upgrade.h"
+#include "shell/password.h"
 
 namespace mc {
 
@@ -21,12 +23,10 @@ long long IniInt(Context& ctx, int form, const char* key) {
   return v;
 }
 
-// Latitude, longitude and zone: written with the user's decimal separator, or
-// with a point, which is how the place files hold them.
+// Latitude, longitude and zone: written with the user's decimal separator or
+// with the other one (the place files use a point); either reads.
 float IniCoordinate(Context& ctx, const char* key) {
-  std::string text = ReadIniFile(ctx, 0, key);
-  auto v = ParseStrictNumber(text, ctx.settings.decimalSeparator);
-  if (!v) v = ParseStrictNumber(text, '.');
+  auto v = ParseDecimalNumber(ReadIniFile(ctx, 0, key), ctx.settings.decimalSeparator);
   return v ? static_cast<float>(*v) : 0.0f;
 }
 
@@ -65,7 +65,7 @@ void ReadAlarmBlock(Context& ctx) {
 
 }  // namespace
 
-void SetBasicData(Context& ctx, const StartOptions& options) {
+bool SetBasicData(Context& ctx, const StartOptions& options) {
   SettingsBlock& s = ctx.settings;
   ctx.Trace("SetBasicData entered.");
   s.showTipPending = true;
@@ -125,8 +125,15 @@ void SetBasicData(Context& ctx, const StartOptions& options) {
   // Reminder messages were widened from 40 to 60 characters once.
   if (s.remLengthUpdated == "No") WidenReminderMessages(ctx);
 
+  bool dataLoaded = true;
+  if (LoadUmmAlQuraTable(ctx))
+    ctx.Trace("SetBasicData. UAQ data arrays successfully created.");
+  else
+    dataLoaded = false;
+
   ctx.Trace("SetBasicData. Global values successfully defined.");
   ctx.Trace("SetBasicData. Remaining global values successfully defined.");
+  return dataLoaded;
 }
 
 StartOutcome StartProgram(Context& ctx, const StartOptions& options) {
@@ -144,8 +151,11 @@ StartOutcome StartProgram(Context& ctx, const StartOptions& options) {
   }
   ctx.TraceLine("Main form load. File mercod.ini exists.");
   ctx.settings.debugOn = ReadIniFile(ctx, 0, "Debug") == "Yes";
-  SetBasicData(ctx, options);
+  const bool dataLoaded = SetBasicData(ctx, options);
   ctx.Trace("Main form load. SetBasicData has completed.");
+  if (!dataLoaded) return StartOutcome::BadDataFile;
+  if (options.checkPassword && !CheckStartupPassword(ctx, ProgramUserSettings()))
+    return StartOutcome::PasswordRefused;
 
   // The factoring engine is written out only while it runs.
   RemoveIfExists(ctx.FilePath("yafu-32k-Win32.exe"));

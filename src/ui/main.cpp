@@ -60,7 +60,16 @@ int main(int argc, char** argv) {
     sink.Show(mc::kInformation, "Meridian Codex is already running.");
     return 0;
   }
-  if (mc::StartProgram(ctx) != mc::StartOutcome::Ready) return 2;
+  mc::StartOptions options;
+  options.checkPassword = true;
+  switch (mc::StartProgram(ctx, options)) {
+    case mc::StartOutcome::Ready:
+      break;
+    case mc::StartOutcome::PasswordRefused:
+      return 0;
+    default:
+      return 2;
+  }
   ctx.SetEventPump([] { QCoreApplication::processEvents(); });
 
   mc::ui::Desktop desktop(ctx);

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QGridLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -14,8 +15,10 @@
 #include <QTimer>
 
 #include "core/safe_file.h"
+#include "shell/updates.h"
 #include "ui/fonts.h"
 #include "ui/output_box.h"
+#include "ui/quick_notes_form.h"
 #include "ui/screen_colours.h"
 #include "ui/screen_form.h"
 #include "ui/sound.h"
@@ -97,6 +100,7 @@ void MainWindow::Load() {
   if (start.leaveLoad) return;
   ShowReminderReport(start.report);
   Signal(start.signal);
+  ctx_.settings.fontsChanged = false;
   ctx_.Trace("Main form load. Favourite items about to be handled.");
   ApplyFavourites();
   ctx_.Trace("Main form load. Favourite items have been handled.");
@@ -168,6 +172,13 @@ bool MainWindow::Implemented(const MenuEntry& e) const {
     case Command::VersionHistory:
     case Command::ListReminders:
     case Command::ListOutOfDate:
+    case Command::Backup:
+    case Command::RestoreAll:
+    case Command::RestoreIni:
+    case Command::RestoreNotes:
+    case Command::RestoreReminders:
+    case Command::LastBackupDate:
+    case Command::CheckForUpdates:
       return true;
     default:
       return false;
@@ -208,9 +219,68 @@ void MainWindow::Run(const MenuEntry& e) {
     case Command::ListOutOfDate:
       ListOutOfDate();
       break;
+    case Command::Backup:
+      mc::Backup(ctx_);
+      break;
+    case Command::RestoreAll:
+      Restore(RestoreKind::All);
+      break;
+    case Command::RestoreIni:
+      Restore(RestoreKind::IniFile);
+      break;
+    case Command::RestoreNotes:
+      Restore(RestoreKind::QuickNotes);
+      break;
+    case Command::RestoreReminders:
+      Restore(RestoreKind::Reminders);
+      break;
+    case Command::LastBackupDate:
+      ShowLastBackupDate(ctx_);
+      break;
+    case Command::CheckForUpdates:
+      CheckForUpdates();
+      break;
     default:
       break;
   }
+}
+
+void MainWindow::Restore(RestoreKind kind) {
+  if (!mc::Restore(ctx_, kind)) return;
+  if (kind == RestoreKind::All || kind == RestoreKind::IniFile) {
+    // The settings file was read again: its colours, fonts and favourites show now.
+    ApplyScreenColours(ctx_, this, 1);
+    ShowLamp();
+    ApplyFavourites();
+    place_->setText(Q(model_.PlaceText()));
+    ctx_.settings.fontsChanged = false;
+    ApplyOutputFont();
+  }
+  // Restored reminders show in the list of reminders when it is next built.
+  if (kind == RestoreKind::All || kind == RestoreKind::QuickNotes) {
+    if (auto* notes = qobject_cast<QuickNotesForm*>(desktop_.Loaded(25))) notes->Reload();
+  }
+}
+
+void MainWindow::CheckForUpdates() {
+  if (checkingUpdates_) return;  // the menu can be reached again while the transfer runs
+  checkingUpdates_ = true;
+  QApplication::setOverrideCursor(Qt::BusyCursor);
+  mc::CheckForUpdates(ctx_);
+  while (QApplication::overrideCursor()) QApplication::restoreOverrideCursor();
+  checkingUpdates_ = false;
+}
+
+void MainWindow::ApplyOutputFont() {
+  const SettingsBlock& s = ctx_.settings;
+  if (fontMode_ == "PW")
+    output_->setFont(DisplayPropFont(s));
+  else if (fontMode_ == "UFW")
+    output_->setFont(FontOf(s.userFixedFont, 1, true));
+  else if (fontMode_ == "UPW")
+    output_->setFont(FontOf(s.userPropFont));
+  else
+    output_->setFont(DisplayFixedFont(s, 1));
 }
 
 void MainWindow::Tick() {
@@ -238,16 +308,8 @@ void MainWindow::Tick() {
 }
 
 void MainWindow::SetFontMode(std::string_view mode) {
-  const SettingsBlock& s = ctx_.settings;
   fontMode_ = std::string(mode);
-  if (mode == "PW")
-    output_->setFont(DisplayPropFont(s));
-  else if (mode == "UFW")
-    output_->setFont(FontOf(s.userFixedFont, 1, true));
-  else if (mode == "UPW")
-    output_->setFont(FontOf(s.userPropFont));
-  else
-    output_->setFont(DisplayFixedFont(s, 1));
+  ApplyOutputFont();
 }
 
 void MainWindow::ShowReminderReport(const ReminderReport& report) {
@@ -301,7 +363,28 @@ void MainWindow::showEvent(QShowEvent* event) {
   ApplyScreenColours(ctx_, this, 1);
   ShowLamp();  // the screen's text colour is not the lamp's
   ctx_.settings.currentForm.clear();
+  if (ctx_.settings.fontsChanged) {
+    ctx_.settings.fontsChanged = false;
+    ApplyOutputFont();
+    output_->setFocus();
+  }
   QMainWindow::showEvent(event);
+  if (ctx_.settings.showTipPending) {
+    ctx_.settings.showTipPending = false;
+    if (ctx_.settings.showTip == "Yes") {
+      ctx_.Trace("Main form activate. Tip of the Day about to be shown.");
+      QTimer::singleShot(0, this, [this] { desktop_.Open(42); });
+    }
+  }
+}
+
+void MainWindow::keyPressEvent(QKeyEvent* event) {
+  // Ctrl+T stops long work that yields to events (Check for Updates and the like).
+  if (event->key() == Qt::Key_T && (event->modifiers() & Qt::ControlModifier)) {
+    ctx_.RequestCancel();
+    return;
+  }
+  QMainWindow::keyPressEvent(event);
 }
 
 void MainWindow::ToggleEnlarged() {
@@ -344,7 +427,13 @@ void MainWindow::ToTray() {
     auto* menu = new QMenu(this);
     menu->setObjectName("mnuPopup");
     menu->addAction("Restore", this, &MainWindow::FromTray)->setObjectName("mnuRestore");
-    menu->addAction("Exit", qApp, &QApplication::quit)->setObjectName("mnuExit");
+    QAction* exit = menu->addAction("Exit");
+    exit->setObjectName("mnuExit");
+    connect(exit, &QAction::triggered, this, [this] {
+      // No clean-up on this way out, but changed notes are kept.
+      if (auto* notes = qobject_cast<QuickNotesForm*>(desktop_.Loaded(25))) notes->SaveIfChanged();
+      qApp->quit();
+    });
     tray_->setContextMenu(menu);
     connect(tray_, &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason r) {
       if (r == QSystemTrayIcon::DoubleClick || r == QSystemTrayIcon::Trigger) FromTray();
@@ -365,6 +454,7 @@ void MainWindow::FromTray() {
 
 void MainWindow::closeEvent(QCloseEvent* event) {
   // The same clean-up for every way out.
+  if (auto* notes = qobject_cast<QuickNotesForm*>(desktop_.Loaded(25))) notes->SaveIfChanged();
   RemoveIfExists(ctx_.FilePath("mainsol.dat"));
   RemoveIfExists(ctx_.FilePath("secsol.dat"));
   if (tray_) tray_->hide();

@@ -7,6 +7,7 @@
 #include <map>
 
 #include "reminders/report.h"
+#include "shell/backup.h"
 #include "shell/main_screen.h"
 #include "ui/desktop.h"
 #include "ui/menus.h"
@@ -43,16 +44,23 @@ class MainWindow : public QMainWindow {
   void SetFontMode(std::string_view mode);
   // After a reminder screen: rebuilds the list when it changed.
   void ReminderScreenLeft();
+  // Shows the favourites the settings file asks for; the Favourites Options
+  // screen calls it at each change.
+  void ApplyFavourites();
 
  protected:
   void changeEvent(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
   void showEvent(QShowEvent* event) override;
 
  private:
   void BuildMenus();
-  void ApplyFavourites();
   void Run(const MenuEntry& entry);
+  // The output box's font for the present font mode ("FW", "PW", "UFW", "UPW").
+  void ApplyOutputFont();
+  void Restore(RestoreKind kind);
+  void CheckForUpdates();
   bool Implemented(const MenuEntry& entry) const;
   void ToggleEnlarged();
   void ToTray();
@@ -79,6 +87,7 @@ class MainWindow : public QMainWindow {
   std::string fontMode_ = "FW";
   QRect normalGeometry_;
   bool enlarged_ = false;
+  bool checkingUpdates_ = false;
 };
 
 }  // namespace mc::ui

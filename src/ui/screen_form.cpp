@@ -25,6 +25,7 @@ OutputBox* ScreenForm::MakeOutputBox() {
   auto* box = new OutputBox(ctx(), this);
   box->setObjectName("txtOutput");
   box->setFont(DisplayFixedFont(ctx().settings, 0));
+  outputs_.emplace_back(box);
   connect(box, &OutputBox::enlargeToggled, this, &ScreenForm::ToggleEnlarged);
   connect(box, &OutputBox::findRequested, this, [this, box] { desktop_.OpenFind(this, box); });
   connect(box, &OutputBox::helpRequested, this, [this] { desktop_.OpenHelpFile("readme.pdf"); });
@@ -65,6 +66,9 @@ QPushButton* ScreenForm::MakePrintButton(OutputBox* box) {
 
 void ScreenForm::showEvent(QShowEvent* event) {
   ApplyScreenColours(ctx(), this, formNumber_);
+  // Font options take effect at the next activation.
+  for (const auto& box : outputs_)
+    if (box) box->setFont(DisplayFixedFont(ctx().settings, 0));
   QWidget::showEvent(event);
 }
 

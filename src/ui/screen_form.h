@@ -2,7 +2,9 @@
 // with the program's colours, keys and navigation buttons.
 #pragma once
 
+#include <QPointer>
 #include <QWidget>
+#include <vector>
 
 #include "core/clock.h"
 #include "ui/desktop.h"
@@ -47,6 +49,7 @@ class ScreenForm : public QWidget {
   int formNumber_;
   QRect normalGeometry_;
   bool enlarged_ = false;
+  std::vector<QPointer<OutputBox>> outputs_;
 };
 
 }  // namespace mc::ui

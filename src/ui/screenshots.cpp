@@ -7,6 +7,7 @@
 
 #include "ui/desktop.h"
 #include "ui/main_window.h"
+#include "ui/quick_notes_form.h"
 #include "ui/screen_form.h"
 
 namespace mc::ui {
@@ -29,6 +30,13 @@ void SaveScreenshots(Desktop& desktop, MainWindow& main, const QString& dir) {
     if (!form) continue;
     Settle();
     form->grab().save(QString("%1/Form%2.png").arg(dir).arg(number));
+    // Find and Replace is reached only through Quick Notes.
+    if (auto* notes = qobject_cast<QuickNotesForm*>(form)) {
+      FindReplaceForm* find = notes->OpenFindReplace();
+      Settle();
+      find->grab().save(dir + "/Form28.png");
+      find->hide();
+    }
     desktop.ShowMain(form);
   }
 }

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <limits>
+
 namespace mc {
 namespace {
 
@@ -31,6 +34,12 @@ TEST(FormatSigFigs, SmallAndHugeValuesUseTheExponentForm) {
   EXPECT_EQ(FormatSigFigs(3, 0.012345), "1.23E-02");
   EXPECT_EQ(FormatSigFigs(4, 6.02214076e23), "6.022E23");
   EXPECT_EQ(FormatSigFigs(3, -1.5e-300), "-1.5E-300");
+}
+
+TEST(FormatSigFigs, NeverWritesInfinity) {
+  EXPECT_EQ(FormatSigFigs(1, 1.7e308), "1.7E308");  // rounding up would pass the largest double
+  EXPECT_EQ(FormatSigFigs(5, std::numeric_limits<double>::infinity()), "Overflow");
+  EXPECT_EQ(FormatWithMask(std::nan(""), "0.0"), "Overflow");
 }
 
 TEST(FormatSigFigs, WritesTheUsersDecimalSeparator) {

@@ -37,6 +37,7 @@ std::vector<std::string> Keys(const std::string& content) {
 TEST(Startup, AVersion158FileClimbsToTheShippedLayoutInOneStart) {
   test::TestProgram p(false);
   p.Write("mercod.ini", ReadFile(std::filesystem::path(CODEX_TEST_DATA_DIR) / "mercod-158.ini"));
+  p.Write("ummalqur.dat", ReadFile(std::filesystem::path(CODEX_DATA_DIR) / "ummalqur.dat"));
   p.Start();
   EXPECT_EQ(p.ctx.settings.versionNum, kCurrentIniVersion);
   const std::string climbed = p.Read("mercod.ini");

@@ -1,0 +1,108 @@
+// Day-number conversions of the cycle calendars, Roman numerals and dates.
+#include <benchmark/benchmark.h>
+
+#include "calendars/cycles.h"
+#include "calendars/gregorian.h"
+#include "calendars/roman.h"
+#include "core/context.h"
+
+namespace {
+
+class QuietSink final : public mc::MessageSink {
+ public:
+  void Show(std::string_view, std::string_view) override {}
+  bool Ask(std::string_view, std::string_view) override { return false; }
+  std::optional<std::string> Input(std::string_view, std::string_view, bool,
+                                   std::string_view) override {
+    return std::nullopt;
+  }
+};
+
+struct Program {
+  QuietSink sink;
+  mc::FixedClock clock{{2026, 11, 23, 10, 30, 0, 0}};
+  mc::Context ctx{"", clock, sink};
+  mc::CalendarEngine& engine = mc::Calendars(ctx);
+};
+
+// Days spread over the supported years of each calendar.
+mc::JD SpreadDay(std::int64_t i) {
+  return mc::GregorianToJD(1, 1, 1700) + static_cast<mc::JD>((i * 7919) % 2'900'000);
+}
+
+void JDToDate(benchmark::State& state, mc::CalType type) {
+  Program p;
+  std::int64_t i = 0;
+  for (auto _ : state) benchmark::DoNotOptimize(p.engine.JDToDate(type, SpreadDay(i++)));
+  state.SetItemsProcessed(state.iterations());
+}
+
+void DateToJD(benchmark::State& state, mc::CalType type) {
+  Program p;
+  std::vector<mc::CalDate> dates;
+  for (int k = 0; k < 4096; ++k) dates.push_back(p.engine.JDToDate(type, SpreadDay(k)));
+  std::size_t i = 0;
+  for (auto _ : state) {
+    const mc::CalDate& d = dates[i++ & 4095];
+    benchmark::DoNotOptimize(p.engine.DateToJD(type, d.day, d.month, d.year));
+  }
+  state.SetItemsProcessed(state.iterations());
+}
+
+BENCHMARK_CAPTURE(JDToDate, Bal, mc::CalType::Bal);
+BENCHMARK_CAPTURE(DateToJD, Bal, mc::CalType::Bal);
+BENCHMARK_CAPTURE(JDToDate, Jav, mc::CalType::Jav);
+BENCHMARK_CAPTURE(DateToJD, Jav, mc::CalType::Jav);
+BENCHMARK_CAPTURE(JDToDate, Yor, mc::CalType::Yor);
+BENCHMARK_CAPTURE(DateToJD, Yor, mc::CalType::Yor);
+BENCHMARK_CAPTURE(JDToDate, Haab, mc::CalType::Haab);
+BENCHMARK_CAPTURE(JDToDate, Tzo, mc::CalType::Tzo);
+BENCHMARK_CAPTURE(JDToDate, Ton, mc::CalType::Ton);
+BENCHMARK_CAPTURE(JDToDate, Xih, mc::CalType::Xih);
+
+void LongCountBothWays(benchmark::State& state) {
+  Program p;
+  std::int64_t i = 0;
+  for (auto _ : state) {
+    mc::LongCount c = mc::LongCountOfJD(p.ctx, SpreadDay(i++));
+    benchmark::DoNotOptimize(mc::JDOfLongCount(p.ctx, c));
+  }
+  state.SetItemsProcessed(state.iterations());
+}
+BENCHMARK(LongCountBothWays);
+
+void PawukonReportLines(benchmark::State& state) {
+  Program p;
+  std::int64_t i = 0;
+  for (auto _ : state) {
+    mc::JD jd = SpreadDay(i++);
+    benchmark::DoNotOptimize(mc::PawukonLine(p.ctx, jd));
+    benchmark::DoNotOptimize(mc::PawukonDetailLines(p.ctx, jd));
+  }
+  state.SetItemsProcessed(state.iterations());
+}
+BENCHMARK(PawukonReportLines);
+
+void RomanNumeralsBothWays(benchmark::State& state) {
+  int n = 1;
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(mc::FromRoman(mc::ToRoman(n)));
+    n = n % 3999 + 1;
+  }
+  state.SetItemsProcessed(state.iterations());
+}
+BENCHMARK(RomanNumeralsBothWays);
+
+void RomanDateOfTheYear(benchmark::State& state) {
+  int day = 0;
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(mc::RomanDate(day % 28 + 1, day % 12 + 1, 2000));
+    ++day;
+  }
+  state.SetItemsProcessed(state.iterations());
+}
+BENCHMARK(RomanDateOfTheYear);
+
+}  // namespace
+
+BENCHMARK_MAIN();

@@ -1,0 +1,107 @@
+// Cost of the Hindu calendars: one conversion each way for the solar and the
+// lunisolar reckonings, the building blocks they spend their time in, and the
+// month and year questions the calendar views ask.
+#include <benchmark/benchmark.h>
+
+#include <filesystem>
+#include <optional>
+#include <string>
+
+#include "calendars/hindu.h"
+#include "calendars/registry.h"
+#include "core/clock.h"
+#include "core/context.h"
+#include "core/message_sink.h"
+
+namespace {
+
+using mc::CalType;
+using mc::JD;
+
+class SilentSink final : public mc::MessageSink {
+ public:
+  void Show(std::string_view, std::string_view) override {}
+  bool Ask(std::string_view, std::string_view) override { return false; }
+  std::optional<std::string> Input(std::string_view, std::string_view, bool,
+                                   std::string_view) override {
+    return std::nullopt;
+  }
+};
+
+struct Program {
+  mc::FixedClock clock{mc::LocalDateTime{2026, 11, 23, 10, 30, 0, 0}};
+  SilentSink sink;
+  mc::Context ctx{std::filesystem::temp_directory_path(), clock, sink};
+  mc::CalendarEngine& engine = mc::Calendars(ctx);
+};
+
+// Days spread over the supported range (years 64 to 10055 of the Vikrama era).
+JD DayAt(std::int64_t i) {
+  return 1724000 + static_cast<JD>((i * 7919) % 3640000);
+}
+
+void JDToDate(benchmark::State& state, CalType type) {
+  Program p;
+  std::int64_t i = 0;
+  for (auto _ : state) benchmark::DoNotOptimize(p.engine.JDToDate(type, DayAt(i++)));
+}
+
+void DateToJD(benchmark::State& state, CalType type) {
+  Program p;
+  // Dates of real days, made beforehand.
+  std::vector<mc::CalDate> dates;
+  for (int i = 0; i < 512; ++i) dates.push_back(p.engine.JDToDate(type, DayAt(i)));
+  std::size_t i = 0;
+  for (auto _ : state) {
+    const mc::CalDate& d = dates[i++ % dates.size()];
+    benchmark::DoNotOptimize(p.engine.DateToJD(type, d.day, d.month, d.year));
+  }
+}
+
+BENCHMARK_CAPTURE(JDToDate, HinLun, CalType::HinLun);
+BENCHMARK_CAPTURE(DateToJD, HinLun, CalType::HinLun);
+BENCHMARK_CAPTURE(JDToDate, HinLun1, CalType::HinLun1);
+BENCHMARK_CAPTURE(DateToJD, HinLun1, CalType::HinLun1);
+BENCHMARK_CAPTURE(JDToDate, HinLun3, CalType::HinLun3);
+BENCHMARK_CAPTURE(DateToJD, HinLun3, CalType::HinLun3);
+BENCHMARK_CAPTURE(JDToDate, HinSol, CalType::HinSol);
+BENCHMARK_CAPTURE(DateToJD, HinSol, CalType::HinSol);
+
+void SolarMonthLength(benchmark::State& state) {
+  Program p;
+  int i = 0;
+  for (auto _ : state) {
+    ++i;
+    benchmark::DoNotOptimize(p.engine.DaysInMonth(CalType::HinSol, 1900 + i % 100, i % 12 + 1));
+  }
+}
+BENCHMARK(SolarMonthLength);
+
+void LunisolarLeapYear(benchmark::State& state) {
+  Program p;
+  int i = 0;
+  for (auto _ : state) benchmark::DoNotOptimize(p.engine.IsLeapYear(CalType::HinLun, 2000 + i++));
+}
+BENCHMARK(LunisolarLeapYear);
+
+void Sunrise(benchmark::State& state) {
+  double t = 1.8e6;
+  for (auto _ : state) benchmark::DoNotOptimize(mc::hindu::Sunrise(t += 1));
+}
+BENCHMARK(Sunrise);
+
+void NewMoonBefore(benchmark::State& state) {
+  double t = 1.8e6;
+  for (auto _ : state) benchmark::DoNotOptimize(mc::hindu::NewMoonBefore(t += 1.37));
+}
+BENCHMARK(NewMoonBefore);
+
+void OldLunisolar(benchmark::State& state) {
+  int rd = 100000;
+  for (auto _ : state) benchmark::DoNotOptimize(mc::hindu::OldLunarDateFromRD(rd++));
+}
+BENCHMARK(OldLunisolar);
+
+}  // namespace
+
+BENCHMARK_MAIN();

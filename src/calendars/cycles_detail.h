@@ -1,0 +1,44 @@
+// Shared pieces of the cycle calendars' source files.
+#pragma once
+
+#include <array>
+#include <string>
+#include <string_view>
+
+#include "calendars/names.h"
+#include "calendars/registry.h"
+
+namespace mc::cycles {
+
+// Remainder in 0..m-1 for any sign of a.
+constexpr int FloorMod(long long a, int m) {
+  long long r = a % m;
+  return static_cast<int>(r < 0 ? r + m : r);
+}
+// Quotient rounded down.
+constexpr long long FloorDiv(long long a, long long m) {
+  long long q = a / m;
+  return (a % m != 0 && (a < 0) != (m < 0)) ? q - 1 : q;
+}
+// a mod m with 0 read as m: 1..m.
+constexpr int Cycle(long long a, int m) {
+  int r = FloorMod(a, m);
+  return r == 0 ? m : r;
+}
+
+// A name as the user has chosen to see it (accented or plain letters).
+inline std::string Shown(const Context& ctx, std::string_view name) {
+  return ctx.settings.plainLetters ? PlainLetters(name) : std::string(name);
+}
+
+// Entry `index` of a name list, as shown.
+template <std::size_t M>
+std::string ShownAt(const Context& ctx, const std::array<std::string_view, M>& list, int index) {
+  return Shown(ctx, list[static_cast<std::size_t>(index)]);
+}
+
+void RegisterBalineseRules(RulesTable& table);
+void RegisterJavaneseRules(RulesTable& table);
+void RegisterYorubaRules(RulesTable& table);
+
+}  // namespace mc::cycles
