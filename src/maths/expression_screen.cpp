@@ -62,6 +62,14 @@ LineResult ExpressionCalculatorScreen::Calculate() {
   return r;
 }
 
+LineResult ExpressionCalculatorScreen::PressEnter() {
+  std::size_t caret = caret_;
+  LineResult r = session_.CalculateAt(caret_, caret);
+  lastLineOk_ = r.ok();
+  caret_ = caret;
+  return r;
+}
+
 bool ExpressionCalculatorScreen::RecalcAll() {
   lastLineOk_ = session_.RecalcAll(ignoreMarkedLines);
   CaretToEnd();

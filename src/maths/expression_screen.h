@@ -56,6 +56,10 @@ class ExpressionCalculatorScreen {
   // --- Commands ---
   // &Calculate (or the Enter key): the last line.
   LineResult Calculate();
+  // The Enter key in the session box: the line at the caret, worked out
+  // where it stands (see ExpressionSession::CalculateAt); the caret goes
+  // below its results.
+  LineResult PressEnter();
   // &Recalc All.
   bool RecalcAll();
   // &Save and &Load, with the file chosen in the dialog.

@@ -1,5 +1,9 @@
 #include "maths/expression_session.h"
 
+#include <algorithm>
+#include <tuple>
+#include <utility>
+
 #include "core/errors.h"
 #include "core/safe_file.h"
 #include "core/text_util.h"
@@ -27,6 +31,22 @@ std::string TakeLastLine(std::string& text) {
   auto nl = text.rfind('\n');
   std::string line = nl == std::string::npos ? text : text.substr(nl + 1);
   text.resize(nl == std::string::npos ? 0 : nl + 1);
+  return line;
+}
+
+// The line holding byte `at`: where it starts and where it ends (at its
+// line break, or the end of the text).
+std::pair<std::size_t, std::size_t> LineAround(const std::string& text, std::size_t at) {
+  const auto nl = at == 0 ? std::string::npos : text.rfind('\n', at - 1);
+  const std::size_t begin = nl == std::string::npos ? 0 : nl + 1;
+  const auto end = text.find('\n', begin);
+  return {begin, end == std::string::npos ? text.size() : end};
+}
+
+// The text of a line without its CR.
+std::string_view LineText(const std::string& text, std::size_t begin, std::size_t end) {
+  std::string_view line(text.data() + begin, end - begin);
+  if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
   return line;
 }
 
@@ -79,6 +99,51 @@ LineResult ExpressionSession::Calculate() {
     line = TakeLastLine(text);
   }
   return Enter(std::move(text), line);
+}
+
+LineResult ExpressionSession::CalculateAt(std::size_t offset, std::size_t& caret) {
+  auto [begin, end] = LineAround(text_, std::min(offset, text_.size()));
+  // A result line stands for the line above it that it belongs to.
+  while (StartsWith(LineText(text_, begin, end), kResultMark) && begin > 0)
+    std::tie(begin, end) = LineAround(text_, begin - 1);
+  const std::string line(LineText(text_, begin, end));
+  if (StartsWith(line, kResultMark)) {  // results with no line above
+    caret = begin + line.size();
+    return {};
+  }
+  // The old results: the result lines right below the line.
+  std::size_t rest = end < text_.size() ? end + 1 : end;
+  while (rest < text_.size()) {
+    const auto [b, e] = LineAround(text_, rest);
+    if (!StartsWith(LineText(text_, b, e), kResultMark)) break;
+    rest = e < text_.size() ? e + 1 : e;
+  }
+
+  LineResult r = engine_.ProcessLine(line);
+  std::string text = text_.substr(0, begin) + r.shown;
+  if (r.kind == LineResult::Kind::Blank || r.kind == LineResult::Kind::Skipped) {
+    // Enter on a line with nothing to work out opens a new line below it.
+    text += kCrLf;
+    caret = text.size();
+    text += std::string_view(text_).substr(begin + line.size());
+  } else if (r.ok()) {
+    text += kCrLf;
+    for (const auto& out : r.output) {
+      text += out;
+      text += kCrLf;
+    }
+    caret = text.size();
+    text += std::string_view(text_).substr(rest);
+  } else {
+    caret = text.size();
+    if (rest < text_.size()) {
+      text += kCrLf;
+      text += std::string_view(text_).substr(rest);
+    }
+  }
+  text_ = std::move(text);
+  if (!r.value.empty()) clipboard_ = r.value;
+  return r;
 }
 
 bool ExpressionSession::RecalcAll(bool ignoreMarkedLines) {

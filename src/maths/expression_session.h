@@ -30,6 +30,14 @@ class ExpressionSession {
   // Calculates the last line of the text (the line above it when the last
   // one is a result line) and writes the result below it.
   LineResult Calculate();
+  // The Enter key with the caret at byte `offset`: the line holding it is
+  // calculated where it stands. Its old result lines give way to the new
+  // ones and the lines below stay as they are; on a failure the line stands
+  // without results. A blank or comment line gets a line break after it, and
+  // a result line stands for the line it belongs to. `caret` receives where
+  // typing goes on: below the results, or at the end of a line that failed.
+  // On the last line this is typing the line and pressing Enter at the end.
+  LineResult CalculateAt(std::size_t offset, std::size_t& caret);
   // Calculates every line that is not a result line, from the top, with
   // marked lines passed over when ignoreMarkedLines; stops at the first fault.
   bool RecalcAll(bool ignoreMarkedLines);

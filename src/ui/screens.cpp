@@ -3,6 +3,7 @@
 #include "ui/date_conversions_form.h"
 #include "ui/desktop.h"
 #include "ui/edit_reminders_form.h"
+#include "ui/expression_form.h"
 #include "ui/options_forms.h"
 #include "ui/password_form.h"
 #include "ui/quick_notes_form.h"
@@ -20,6 +21,7 @@ const std::map<int, Desktop::Factory>& Desktop::Screens() {
       {12, [](Desktop& d) -> ScreenForm* { return new DateConversionsForm(d); }},
       {21, [](Desktop& d) -> ScreenForm* { return new ReminderUtilitiesForm(d); }},
       {25, [](Desktop& d) -> ScreenForm* { return new QuickNotesForm(d); }},
+      {27, [](Desktop& d) -> ScreenForm* { return new ExpressionForm(d); }},
       {40, [](Desktop& d) -> ScreenForm* { return new GeneralOptionsForm(d); }},
       {41, [](Desktop& d) -> ScreenForm* { return new ColourOptionsForm(d); }},
       {42, [](Desktop& d) -> ScreenForm* { return new TipForm(d); }},

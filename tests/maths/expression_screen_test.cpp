@@ -62,6 +62,70 @@ TEST_F(ExpressionScreen, CalculateWritesResultsUnderTheLines) {
   EXPECT_TRUE(screen->LastLineOk());
 }
 
+TEST_F(ExpressionScreen, EnterWorksOutTheLineAtTheCaret) {
+  Type({"a = 2", "b = a * 10", "b + 1"});
+  // The user changes the first line and presses Enter on it: its result is
+  // replaced, the lines below stay as they are, and the caret goes below it.
+  std::string text = Text();
+  text.replace(4, 1, "3");
+  screen->SetSessionText(text);
+  screen->SetCaret(2);
+  EXPECT_EQ(screen->PressEnter().kind, LineResult::Kind::Assignment);
+  EXPECT_EQ(Text(), "a = 3\r\n==> a = 3\r\nb = a * 10\r\n==> b = 20\r\nb + 1\r\n==> 21\r\n");
+  EXPECT_EQ(screen->Caret(), Text().find("b = a"));
+  EXPECT_EQ(screen->Clipboard(), "3");
+  // Enter again works out the next line; on a result line, the line it belongs to.
+  screen->PressEnter();
+  EXPECT_EQ(screen->Caret(), Text().find("b + 1"));
+  screen->SetCaret(Text().size() - 3);
+  screen->PressEnter();
+  EXPECT_EQ(Text(), "a = 3\r\n==> a = 3\r\nb = a * 10\r\n==> b = 30\r\nb + 1\r\n==> 31\r\n");
+  EXPECT_EQ(screen->Caret(), Text().size());
+
+  // Anywhere in a line typed at the end the whole line counts.
+  screen->SetSessionText(Text() + "b*2   'twice");
+  screen->SetCaret(Text().size() - 8);
+  screen->PressEnter();
+  EXPECT_TRUE(Text().ends_with("==> 31\r\nb * 2 'twice\r\n==> 60\r\n"));
+  EXPECT_EQ(screen->Caret(), Text().size());
+
+  // On the empty last line and on a comment line Enter opens a new line.
+  const std::string before = Text();
+  screen->PressEnter();
+  EXPECT_EQ(Text(), before + "\r\n");
+  EXPECT_EQ(screen->Caret(), Text().size());
+  screen->SetSessionText("'note\r\n1+1\r\n");
+  screen->SetCaret(3);
+  screen->PressEnter();
+  EXPECT_EQ(Text(), "'note\r\n\r\n1+1\r\n");
+  EXPECT_EQ(screen->Caret(), 7u);
+  EXPECT_TRUE(p.sink.messages.empty());
+
+  // A failing line loses its old result and keeps the lines below; the caret
+  // stays at its end so that it can be put right. A refused line stays as typed.
+  screen->SetSessionText("");
+  Type({"x = 1"});
+  screen->SetSessionText(Text() + "x/0\r\n==> 5\r\nx + 1\r\n==> 2\r\n");
+  screen->SetCaret(19);
+  EXPECT_EQ(screen->PressEnter().kind, LineResult::Kind::Failed);
+  EXPECT_FALSE(screen->LastLineOk());
+  EXPECT_EQ(p.sink.Last(), "Denominator = 0 error using /, \\ or mod.");
+  EXPECT_EQ(Text(), "x = 1\r\n==> x = 1\r\nx / 0\r\nx + 1\r\n==> 2\r\n");
+  EXPECT_EQ(screen->Caret(), Text().find("\r\nx + 1"));
+  screen->SetSessionText("x = 1\r\n==> x = 1\r\n2*/3\r\n==> 5\r\n");
+  screen->SetCaret(19);
+  EXPECT_EQ(screen->PressEnter().kind, LineResult::Kind::Refused);
+  EXPECT_EQ(Text(), "x = 1\r\n==> x = 1\r\n2*/3");
+  EXPECT_EQ(screen->Caret(), Text().size());
+
+  // Results with no line above them are left alone.
+  screen->SetSessionText("==> 4\r\n5\r\n");
+  screen->SetCaret(1);
+  screen->PressEnter();
+  EXPECT_EQ(Text(), "==> 4\r\n5\r\n");
+  EXPECT_EQ(screen->Caret(), 5u);
+}
+
 TEST_F(ExpressionScreen, SignificantFiguresAndListings) {
   screen->SetSignificantFigures(3);
   Type({"2/3", "uservars"});
