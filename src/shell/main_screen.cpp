@@ -76,14 +76,6 @@ std::string FormatElapsed(long seconds, int mode) {
   return buf;
 }
 
-std::array<std::string, 7> WeekHeads(int startDay) {
-  static constexpr const char* kLetters[] = {"  S", "  M", "  T", "  W", "  T", "  F", "  S"};
-  std::array<std::string, 7> heads;
-  int first = (startDay >= 1 && startDay <= 7) ? startDay - 1 : 0;
-  for (int i = 0; i < 7; ++i) heads[static_cast<std::size_t>(i)] = kLetters[(first + i) % 7];
-  return heads;
-}
-
 MainScreenModel::Tick MainScreenModel::OnTick(const LocalDateTime& now) {
   const SettingsBlock& s = ctx_.settings;
   Tick t;

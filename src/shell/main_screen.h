@@ -32,10 +32,6 @@ std::string SunStatusText(const SettingsBlock& settings, const LocalDateTime& no
 // Seconds as the countdown shows them: mode 0 the number, 1 "m:ss", 2 "h:mm:ss".
 std::string FormatElapsed(long seconds, int mode);
 
-// The weekday letters of a calendar grid's head ("  S", "  M", ...), starting
-// on the user's first day of the week (1 = Sunday .. 7 = Saturday).
-std::array<std::string, 7> WeekHeads(int startDay);
-
 class MainScreenModel {
  public:
   explicit MainScreenModel(Context& ctx) : ctx_(ctx) {}
