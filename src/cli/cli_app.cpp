@@ -16,7 +16,8 @@ namespace {
 
 std::vector<CliCommand> AllCommands() {
   std::vector<CliCommand> all;
-  for (auto group : {CalendarCommands, ReminderCommands, CycleCommands, ExpressionCommands}) {
+  for (auto group :
+       {CalendarCommands, ReminderCommands, CycleCommands, ExpressionCommands, ViewCommands}) {
     auto commands = group();
     all.insert(all.end(), commands.begin(), commands.end());
   }

@@ -40,6 +40,7 @@ std::vector<CliCommand> CalendarCommands();
 std::vector<CliCommand> ReminderCommands();
 std::vector<CliCommand> CycleCommands();
 std::vector<CliCommand> ExpressionCommands();
+std::vector<CliCommand> ViewCommands();
 // The expr command over a given input stream (standard input when no lines are given).
 int RunExpressionLines(CliEnv& env, const std::vector<std::string>& words, std::istream& in);
 
