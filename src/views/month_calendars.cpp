@@ -450,6 +450,7 @@ void MonthCalendarsScreen::Render() {
     caption = views::MonthName(ctx_, t, month_, year_);
   }
 
+  firstDay_ = jd;
   // The heading, centred over the grid's 24 characters.
   const std::string yearText = std::to_string(year_);
   const int n = static_cast<int>(DisplayWidth(caption) + yearText.size() + 1);

@@ -68,6 +68,8 @@ class MonthCalendarsScreen {
 
   int Month() const { return month_; }
   int Year() const { return year_; }
+  // The day number of the first day on show.
+  JD FirstDay() const { return firstDay_; }
   // The text of the year box.
   std::string YearText() const;
 
@@ -120,6 +122,7 @@ class MonthCalendarsScreen {
   std::vector<int> listMonths_;  // the month (or table row) of each list entry
   int listYear_ = 0;
   CalType listType_ = CalType::Greg;
+  JD firstDay_ = 0;
   std::string grid_, information_, cycle_, status_;
   bool focusMain_ = false;
 };
