@@ -3,6 +3,7 @@
 #include "ui/date_conversions_form.h"
 #include "ui/desktop.h"
 #include "ui/edit_reminders_form.h"
+#include "ui/month_calendars_form.h"
 #include "ui/expression_form.h"
 #include "ui/options_forms.h"
 #include "ui/password_form.h"
@@ -10,6 +11,7 @@
 #include "ui/reminder_utilities_form.h"
 #include "ui/reminders_by_month_form.h"
 #include "ui/tip_form.h"
+#include "ui/year_calendars_form.h"
 
 namespace mc::ui {
 
@@ -18,7 +20,9 @@ const std::map<int, Desktop::Factory>& Desktop::Screens() {
       {2, [](Desktop& d) -> ScreenForm* { return new AddRemindersForm(d); }},
       {3, [](Desktop& d) -> ScreenForm* { return new EditRemindersForm(d); }},
       {4, [](Desktop& d) -> ScreenForm* { return new RemindersByMonthForm(d); }},
+      {11, [](Desktop& d) -> ScreenForm* { return new YearCalendarsForm(d); }},
       {12, [](Desktop& d) -> ScreenForm* { return new DateConversionsForm(d); }},
+      {13, [](Desktop& d) -> ScreenForm* { return new MonthCalendarsForm(d); }},
       {21, [](Desktop& d) -> ScreenForm* { return new ReminderUtilitiesForm(d); }},
       {25, [](Desktop& d) -> ScreenForm* { return new QuickNotesForm(d); }},
       {27, [](Desktop& d) -> ScreenForm* { return new ExpressionForm(d); }},
