@@ -13,12 +13,6 @@ namespace mc::views {
 
 namespace {
 
-// The months of the Indian National calendar, which bear the names of the
-// lunar months from Chaitra.
-constexpr NameList<12> kIndianNationalMonths = {"",           "Chaitra", "Vaisakha", "Jyaistha",
-                                                "Asadha",     "Sravana", "Bhadra",   "Asvina",
-                                                "Agrahayana", "Pausa",   "Magha",    "Phalguna"};
-
 template <std::size_t N>
 std::string At(const Context& ctx, const std::array<std::string_view, N>& list, int index) {
   if (index < 1 || static_cast<std::size_t>(index) >= N) return "";
@@ -122,7 +116,7 @@ std::string MonthName(Context& ctx, CalType type, int month, int year) {
     case CalType::HinSol:
       return At(ctx, kHinduSolarMonths, month);
     case CalType::Ind:
-      return At(ctx, kIndianNationalMonths, month);
+      return At(ctx, kIndianMonths, month);
     case CalType::Isl:
     case CalType::UAQ:
       return At(ctx, kIslamicMonths, month);

@@ -291,6 +291,12 @@ TEST_F(MonthCalendars, BahaiAndBalineseMonths) {
   EXPECT_TRUE(screen.StepMonth(-1));
   EXPECT_EQ(Shown(), "'Ala' 182");
 
+  // The Indian National months bear the lunar months' names from Chaitra.
+  Open("Indian National");
+  ASSERT_EQ(screen.MonthList().size(), 12u);
+  EXPECT_EQ(screen.MonthList()[7], "Kartika");
+  EXPECT_EQ(screen.MonthList()[11], "Phalguna");
+
   Open("Balinese Saka");
   // Kapitu 1946 from Tuesday 31 December 2024: its 23rd day is the second
   // day of a pengunalatri and takes no place in the grid.
@@ -402,6 +408,7 @@ TEST_F(MonthCalendars, EveryGridListsEachDayOnceInItsWeekdayColumn) {
                      std::to_string(startDay));
         ASSERT_TRUE(screen.EnterYear(std::to_string(year))) << p.sink.Last();
         ASSERT_TRUE(screen.SelectMonth(0)) << p.sink.Last();
+        for (const std::string& name : screen.MonthList()) EXPECT_FALSE(name.empty());
         JD before = 0, after = 0;  // the day before the month on show, the day after
         const int steps = dear ? 14 : 27;
         for (int step = 0; step <= 2 * steps; ++step) {
