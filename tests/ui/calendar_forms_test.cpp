@@ -34,9 +34,6 @@ QString Lines(const std::string& text) {
 class CalendarFormsTest : public ::testing::Test {
  protected:
   CalendarFormsTest() { qputenv("CODEX_SILENT", "1"); }
-  ~CalendarFormsTest() override {
-    for (int form : {11, 13}) delete desktop->Loaded(form);
-  }
   void Open() {
     p.Start();
     desktop = std::make_unique<Desktop>(p.ctx);
