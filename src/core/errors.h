@@ -14,7 +14,7 @@ void ShowError(Context& ctx, int n);
 // A message composed by the caller (the catalogue holds it too) in the same box.
 void ShowErrorText(Context& ctx, std::string_view text);
 
-// Run-time failures, numbered as the original runtime numbered them.
+// Run-time failures by their numbers, as the run-time error box names them.
 enum RunTimeError : int {
   kIllegalFunctionCall = 5,
   kOverflow = 6,
