@@ -244,23 +244,6 @@ std::string ParsiRow(Context& ctx, C type, JD jd) {
   return std::string(At(kParsiMonths, d.month)) + ", " + day + ", " + N(d.year);
 }
 
-// ISO 8601 week of a day, with the year it belongs to.
-struct IsoWeek {
-  int week, year;
-};
-IsoWeek IsoWeekOf(CalendarEngine& engine, JD jd) {
-  const long long d4 = ((jd + 31741LL - (jd % 7)) % 146097) % 36524 % 1461;
-  const long long l = d4 / 1460;
-  int n = static_cast<int>(((d4 - l) % 365 + l) / 7 + 1);
-  CalDate g = JDToGregorian(engine, jd);
-  // The year after the change of calendar has no valid week 1.
-  if (g.year == 1583 && g.month == 1 && n <= 2) n = 51;
-  int year = g.year;
-  if (n >= 51 && g.month == 1) --year;
-  if (n == 1 && g.month == 12) ++year;
-  return {n, year};
-}
-
 std::string IsoRow(CalendarEngine& engine, JD jd) {
   IsoWeek w = IsoWeekOf(engine, jd);
   return Weekday(jd) + ", week " + N(w.week) + ", " + N(w.year);
@@ -488,6 +471,18 @@ bool HasNamedMonths(C type) {
 }
 
 }  // namespace
+
+IsoWeek IsoWeekOf(CalendarEngine& engine, JD jd) {
+  const long long d4 = ((jd + 31741LL - (jd % 7)) % 146097) % 36524 % 1461;
+  const long long l = d4 / 1460;
+  int n = static_cast<int>(((d4 - l) % 365 + l) / 7 + 1);
+  CalDate g = JDToGregorian(engine, jd);
+  if (g.year == 1583 && g.month == 1 && n <= 2) n = 51;
+  int year = g.year;
+  if (n >= 51 && g.month == 1) --year;
+  if (n == 1 && g.month == 12) ++year;
+  return {n, year};
+}
 
 const std::vector<ConversionCalendar>& ConversionCalendars() {
   static const std::vector<ConversionCalendar> list = {

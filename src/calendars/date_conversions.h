@@ -3,6 +3,7 @@
 // of that day.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -17,6 +18,15 @@ struct ConversionCalendar {
   CalType type;
 };
 const std::vector<ConversionCalendar>& ConversionCalendars();
+
+// The ISO 8601 week of a day from its day number, and the year it belongs to
+// (the previous one for weeks 51 to 53 in January, the next for week 1 in
+// December). The first weeks of 1583, after the change of calendar, have no
+// week 1 or 2: they are taken as week 51.
+struct IsoWeek {
+  int week, year;
+};
+IsoWeek IsoWeekOf(CalendarEngine& engine, JD jd);
 
 // The help text above the date box.
 std::string BuildPrompt(Context& ctx, CalType type);

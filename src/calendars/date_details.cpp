@@ -123,18 +123,6 @@ bool HasIso53Weeks(int year) {
   return w == 5 || (w == 4 && IsGregorianLeap(year));
 }
 
-// The ISO week of a day: week number and whether it belongs to the previous
-// (-1) or the following (+1) year.
-std::pair<int, int> IsoWeekAndSide(JD jd, int month) {
-  const long long d4 = ((jd + 31741LL - (jd % 7)) % 146097) % 36524 % 1461;
-  const long long l = d4 / 1460;
-  int n = static_cast<int>(((d4 - l) % 365 + l) / 7 + 1);
-  int side = 0;
-  if (n >= 51 && month == 1) side = -1;
-  if (n == 1 && month == 12) side = 1;
-  return {n, side};
-}
-
 }  // namespace
 
 std::string GregorianDetails(Context& ctx, int day, int month, int year, JD jd) {
@@ -153,15 +141,11 @@ std::string GregorianDetails(Context& ctx, int day, int month, int year, JD jd) 
   if (from1583) {
     out.Add("Date in ISO 8601 international standard date format is " +
             IsoYearMonthDay(year, month, day) + ".");
-    auto [week, side] = IsoWeekAndSide(jd, month);
-    if (year == 1583 && month == 1 && week <= 2) {  // no valid week 1 after the change
-      week = 51;
-      side = -1;
-    }
-    out.Add("In line with the ISO 8601 standard, this date is in week " + N(week) +
-            (side < 0   ? " of the previous year."
-             : side > 0 ? " of the following year."
-                        : " of the year."));
+    const IsoWeek iso = IsoWeekOf(Calendars(ctx), jd);
+    out.Add("In line with the ISO 8601 standard, this date is in week " + N(iso.week) +
+            (iso.year < year   ? " of the previous year."
+             : iso.year > year ? " of the following year."
+                               : " of the year."));
   }
   if (jd >= GregorianToJD(1, 1, 1780)) {
     const JD nextNewYear = GregorianToJD(1, 1, year + 1);
