@@ -22,7 +22,7 @@ build: configure
 	@cmake --build $(BUILD) -j $(JOBS)
 
 run: build
-	@$(BUILD)/bin/codex-cli today
+	@$(BUILD)/bin/codex
 
 test: build
 	@ctest --test-dir $(BUILD) -j $(JOBS) --output-on-failure --timeout 900
