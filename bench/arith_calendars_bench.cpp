@@ -5,35 +5,12 @@
 
 #include <vector>
 
+#include "bench_program.h"
 #include "calendars/gregorian.h"
-#include "calendars/islamic.h"
 #include "calendars/registry.h"
-#include "core/clock.h"
-#include "core/context.h"
-#include "core/program_folder.h"
 
 namespace mc {
 namespace {
-
-class QuietSink final : public MessageSink {
- public:
-  void Show(std::string_view, std::string_view) override {}
-  bool Ask(std::string_view, std::string_view) override { return false; }
-  std::optional<std::string> Input(std::string_view, std::string_view, bool,
-                                   std::string_view) override {
-    return std::nullopt;
-  }
-};
-
-// A context whose program folder is the build's bin/, which holds ummalqur.dat.
-Context& BenchContext() {
-  static SystemClock clock;
-  static QuietSink sink;
-  static Context ctx(GetExeFolder().parent_path() / "bin", clock, sink);
-  static bool loaded = LoadUmmAlQuraTable(ctx);
-  (void)loaded;
-  return ctx;
-}
 
 constexpr JD kFirst = GregorianToJD(1, 1, 2000);
 constexpr int kDays = 300 * 365;
@@ -50,8 +27,10 @@ int DaysFor(CalType type) {
   return kDays;
 }
 
+// The started program holds the Umm al-Qura table of the build's folder.
 void BM_JDToDate(benchmark::State& state, CalType type) {
-  CalendarEngine& engine = Calendars(BenchContext());
+  bench::StartedProgram p;
+  CalendarEngine& engine = p.engine;
   const JD first = FirstDayFor(type);
   const int days = DaysFor(type);
   int i = 0;
@@ -64,7 +43,8 @@ void BM_JDToDate(benchmark::State& state, CalType type) {
 }
 
 void BM_DateToJD(benchmark::State& state, CalType type) {
-  CalendarEngine& engine = Calendars(BenchContext());
+  bench::StartedProgram p;
+  CalendarEngine& engine = p.engine;
   const JD first = FirstDayFor(type);
   std::vector<CalDate> dates;
   for (int i = 0; i < DaysFor(type); ++i) dates.push_back(engine.JDToDate(type, first + i));

@@ -1,29 +1,12 @@
 // Day-number conversions of the cycle calendars, Roman numerals and dates.
 #include <benchmark/benchmark.h>
 
+#include "bench_program.h"
 #include "calendars/cycles.h"
 #include "calendars/gregorian.h"
 #include "calendars/roman.h"
-#include "core/context.h"
 
 namespace {
-
-class QuietSink final : public mc::MessageSink {
- public:
-  void Show(std::string_view, std::string_view) override {}
-  bool Ask(std::string_view, std::string_view) override { return false; }
-  std::optional<std::string> Input(std::string_view, std::string_view, bool,
-                                   std::string_view) override {
-    return std::nullopt;
-  }
-};
-
-struct Program {
-  QuietSink sink;
-  mc::FixedClock clock{{2026, 11, 23, 10, 30, 0, 0}};
-  mc::Context ctx{"", clock, sink};
-  mc::CalendarEngine& engine = mc::Calendars(ctx);
-};
 
 // Days spread over the supported years of each calendar.
 mc::JD SpreadDay(std::int64_t i) {
@@ -31,14 +14,14 @@ mc::JD SpreadDay(std::int64_t i) {
 }
 
 void JDToDate(benchmark::State& state, mc::CalType type) {
-  Program p;
+  mc::bench::StartedProgram p;
   std::int64_t i = 0;
   for (auto _ : state) benchmark::DoNotOptimize(p.engine.JDToDate(type, SpreadDay(i++)));
   state.SetItemsProcessed(state.iterations());
 }
 
 void DateToJD(benchmark::State& state, mc::CalType type) {
-  Program p;
+  mc::bench::StartedProgram p;
   std::vector<mc::CalDate> dates;
   for (int k = 0; k < 4096; ++k) dates.push_back(p.engine.JDToDate(type, SpreadDay(k)));
   std::size_t i = 0;
@@ -61,7 +44,7 @@ BENCHMARK_CAPTURE(JDToDate, Ton, mc::CalType::Ton);
 BENCHMARK_CAPTURE(JDToDate, Xih, mc::CalType::Xih);
 
 void LongCountBothWays(benchmark::State& state) {
-  Program p;
+  mc::bench::StartedProgram p;
   std::int64_t i = 0;
   for (auto _ : state) {
     mc::LongCount c = mc::LongCountOfJD(p.ctx, SpreadDay(i++));
@@ -72,7 +55,7 @@ void LongCountBothWays(benchmark::State& state) {
 BENCHMARK(LongCountBothWays);
 
 void PawukonReportLines(benchmark::State& state) {
-  Program p;
+  mc::bench::StartedProgram p;
   std::int64_t i = 0;
   for (auto _ : state) {
     mc::JD jd = SpreadDay(i++);

@@ -2,30 +2,10 @@
 // the evaluation of the postfix alone, and the numeric input evaluator.
 #include <benchmark/benchmark.h>
 
-#include <filesystem>
-
-#include "core/clock.h"
-#include "core/context.h"
+#include "bench_program.h"
 #include "maths/expression.h"
 
 namespace {
-
-class QuietSink final : public mc::MessageSink {
- public:
-  void Show(std::string_view, std::string_view) override {}
-  bool Ask(std::string_view, std::string_view) override { return false; }
-  std::optional<std::string> Input(std::string_view, std::string_view, bool,
-                                   std::string_view) override {
-    return std::nullopt;
-  }
-};
-
-struct Bench {
-  Bench() : clock(mc::LocalDateTime{2026, 11, 23, 10, 30, 0, 0}), ctx("/tmp", clock, sink) {}
-  mc::FixedClock clock;
-  QuietSink sink;
-  mc::Context ctx;
-};
 
 // "x*(1.5+sin(2))/3^2-" (15 tokens, with a variable and a function) 13
 // times, then "1+1+1": 200 tokens.
@@ -43,8 +23,8 @@ std::string NumericLine() {
 }
 
 void BM_ExpressionLine200(benchmark::State& state) {
-  Bench b;
-  mc::ExpressionEngine engine(b.ctx);
+  mc::bench::StartedProgram p;
+  mc::ExpressionEngine engine(p.ctx);
   engine.ProcessLine("x = 0.75");
   const std::string line = LongLine();
   mc::ParsedLine parsed;
@@ -60,8 +40,8 @@ void BM_ExpressionLine200(benchmark::State& state) {
 BENCHMARK(BM_ExpressionLine200);
 
 void BM_EvaluatePostfix200(benchmark::State& state) {
-  Bench b;
-  mc::ExpressionEngine engine(b.ctx);
+  mc::bench::StartedProgram p;
+  mc::ExpressionEngine engine(p.ctx);
   engine.ProcessLine("x = 0.75");
   mc::ParsedLine parsed;
   std::vector<std::string> postfix;
@@ -72,18 +52,18 @@ void BM_EvaluatePostfix200(benchmark::State& state) {
 BENCHMARK(BM_EvaluatePostfix200);
 
 void BM_EvalNumericInput200(benchmark::State& state) {
-  Bench b;
+  mc::bench::StartedProgram p;
   const std::string line = NumericLine();
   std::vector<std::string> tokens;
-  mc::TokeniseNumeric(b.ctx, line, tokens);
+  mc::TokeniseNumeric(p.ctx, line, tokens);
   if (tokens.size() != 200) state.SkipWithError("not 200 tokens");
-  for (auto _ : state) benchmark::DoNotOptimize(mc::EvalNumericInput(b.ctx, line));
+  for (auto _ : state) benchmark::DoNotOptimize(mc::EvalNumericInput(p.ctx, line));
 }
 BENCHMARK(BM_EvalNumericInput200);
 
 void BM_SolveSquareRoot(benchmark::State& state) {
-  Bench b;
-  mc::ExpressionEngine engine(b.ctx);
+  mc::bench::StartedProgram p;
+  mc::ExpressionEngine engine(p.ctx);
   engine.sigFigs = 14;
   engine.ProcessLine("f(x) = x^2 - 2");
   for (auto _ : state) benchmark::DoNotOptimize(engine.ProcessLine("solve(f;1)"));

@@ -4,31 +4,15 @@
 #include <ostream>
 #include <streambuf>
 
+#include "bench_program.h"
 #include "calendars/gregorian.h"
 #include "cli/cli_app.h"
-#include "core/program_folder.h"
 
 namespace {
 
-class NullSink final : public mc::MessageSink {
- public:
-  void Show(std::string_view, std::string_view) override {}
-  bool Ask(std::string_view, std::string_view) override { return false; }
-  std::optional<std::string> Input(std::string_view, std::string_view, bool,
-                                   std::string_view) override {
-    return std::nullopt;
-  }
-};
-
-struct Engine {
-  NullSink sink;
-  mc::FixedClock clock{{2026, 11, 23, 10, 30, 0, 0}};
-  mc::Context ctx{"", clock, sink};
-};
-
 void BM_GregorianDateToJD(benchmark::State& state) {
-  Engine e;
-  mc::CalendarEngine& cal = mc::Calendars(e.ctx);
+  mc::bench::StartedProgram p;
+  mc::CalendarEngine& cal = p.engine;
   int day = 1;
   for (auto _ : state) {
     benchmark::DoNotOptimize(cal.DateToJD(mc::CalType::Greg, day, 7, 2026));
@@ -39,8 +23,8 @@ void BM_GregorianDateToJD(benchmark::State& state) {
 BENCHMARK(BM_GregorianDateToJD);
 
 void BM_GregorianJDToDate(benchmark::State& state) {
-  Engine e;
-  mc::CalendarEngine& cal = mc::Calendars(e.ctx);
+  mc::bench::StartedProgram p;
+  mc::CalendarEngine& cal = p.engine;
   mc::JD jd = 2451545;
   for (auto _ : state) {
     benchmark::DoNotOptimize(cal.JDToDate(mc::CalType::Greg, jd));
@@ -57,7 +41,7 @@ void BM_FromJDMillionDays(benchmark::State& state) {
     std::streamsize xsputn(const char*, std::streamsize n) override { return n; }
   } discard;
   std::ostream out(&discard), err(&discard);
-  std::string folder = mc::GetExeFolder().parent_path().string() + "/bin";
+  const std::string folder = mc::bench::BuildProgramFolder().string();
   for (auto _ : state) {
     mc::RunCli(
         {"--folder", folder, "--date-order", "d/m/y", "from-jd", "Greg", "2400000", "3399999"}, out,

@@ -3,37 +3,16 @@
 // month and year questions the calendar views ask.
 #include <benchmark/benchmark.h>
 
-#include <filesystem>
-#include <optional>
-#include <string>
+#include <vector>
 
+#include "bench_program.h"
 #include "calendars/hindu.h"
 #include "calendars/registry.h"
-#include "core/clock.h"
-#include "core/context.h"
-#include "core/message_sink.h"
 
 namespace {
 
 using mc::CalType;
 using mc::JD;
-
-class SilentSink final : public mc::MessageSink {
- public:
-  void Show(std::string_view, std::string_view) override {}
-  bool Ask(std::string_view, std::string_view) override { return false; }
-  std::optional<std::string> Input(std::string_view, std::string_view, bool,
-                                   std::string_view) override {
-    return std::nullopt;
-  }
-};
-
-struct Program {
-  mc::FixedClock clock{mc::LocalDateTime{2026, 11, 23, 10, 30, 0, 0}};
-  SilentSink sink;
-  mc::Context ctx{std::filesystem::temp_directory_path(), clock, sink};
-  mc::CalendarEngine& engine = mc::Calendars(ctx);
-};
 
 // Days spread over the supported range (years 64 to 10055 of the Vikrama era).
 JD DayAt(std::int64_t i) {
@@ -41,13 +20,13 @@ JD DayAt(std::int64_t i) {
 }
 
 void JDToDate(benchmark::State& state, CalType type) {
-  Program p;
+  mc::bench::StartedProgram p;
   std::int64_t i = 0;
   for (auto _ : state) benchmark::DoNotOptimize(p.engine.JDToDate(type, DayAt(i++)));
 }
 
 void DateToJD(benchmark::State& state, CalType type) {
-  Program p;
+  mc::bench::StartedProgram p;
   // Dates of real days, made beforehand.
   std::vector<mc::CalDate> dates;
   for (int i = 0; i < 512; ++i) dates.push_back(p.engine.JDToDate(type, DayAt(i)));
@@ -68,7 +47,7 @@ BENCHMARK_CAPTURE(JDToDate, HinSol, CalType::HinSol);
 BENCHMARK_CAPTURE(DateToJD, HinSol, CalType::HinSol);
 
 void SolarMonthLength(benchmark::State& state) {
-  Program p;
+  mc::bench::StartedProgram p;
   int i = 0;
   for (auto _ : state) {
     ++i;
@@ -78,7 +57,7 @@ void SolarMonthLength(benchmark::State& state) {
 BENCHMARK(SolarMonthLength);
 
 void LunisolarLeapYear(benchmark::State& state) {
-  Program p;
+  mc::bench::StartedProgram p;
   int i = 0;
   for (auto _ : state) benchmark::DoNotOptimize(p.engine.IsLeapYear(CalType::HinLun, 2000 + i++));
 }

@@ -4,12 +4,10 @@
 // all of next.
 #include <benchmark/benchmark.h>
 
-#include <cstdlib>
 #include <filesystem>
-#include <fstream>
 
-#include "calendars/gregorian.h"
-#include "core/context.h"
+#include "bench_program.h"
+#include "reminder_import_file.h"
 #include "reminders/add_screen.h"
 #include "reminders/edit_screen.h"
 #include "reminders/month_screen.h"
@@ -19,54 +17,21 @@ namespace {
 
 using namespace mc;
 
-class QuietSink final : public MessageSink {
- public:
-  void Show(std::string_view, std::string_view) override {}
-  bool Ask(std::string_view, std::string_view) override { return true; }
-  std::optional<std::string> Input(std::string_view, std::string_view, bool,
-                                   std::string_view) override {
-    return std::nullopt;
-  }
+// A program folder of its own whose questions are answered Yes.
+struct Program : bench::TempProgram {
+  Program() : TempProgram(true) {}
 };
 
-struct Folder {
-  Folder() {
-    std::string pattern = (std::filesystem::temp_directory_path() / "codex-bench-XXXXXX").string();
-    path = ::mkdtemp(pattern.data());
-    std::ofstream(path / "mercod.ini") << "[Form0]\r\nRemProc Julian Value = 0\r\n";
-  }
-  ~Folder() { std::filesystem::remove_all(path); }
-  std::filesystem::path path;
-};
-
-// Ten thousand reminders over the coming year, every tenth an every-year one
-// with a field, imported into the folder's store.
-void FillStore(const std::filesystem::path& folder, Context& ctx) {
-  {
-    std::ofstream out(folder / "newrems.txt", std::ios::binary);
-    const JD start = GregorianToJD(24, 11, 2026);
-    for (int i = 0; i < 10000; ++i) {
-      const JD jd = start + (i * 37) % 365;
-      const int y = jd >= GregorianToJD(1, 1, 2027) ? 2027 : 2026;
-      int m = 12;
-      while (GregorianToJD(1, m, y) > jd) --m;
-      const int d = jd - GregorianToJD(1, m, y) + 1;
-      if (i % 10 == 0 && !(d == 29 && m == 2))
-        out << d << ',' << m << ",every,Anniversary <1990!> number " << i << "\r\n";
-      else
-        out << d << ',' << m << ',' << y << ",Reminder number " << i << "\r\n";
-    }
-  }
+// The store filled with the ten thousand reminders of the import file.
+void FillStore(Context& ctx) {
+  bench::WriteReminderImportFile(ctx.ExeFolder());
   ImportReminders(ctx, {"day month year message", "Comma ,", ""});
 }
 
 void BM_EditListing10000(benchmark::State& state) {
-  Folder folder;
-  FixedClock clock({2026, 11, 23, 10, 30, 0, 0});
-  QuietSink sink;
-  Context ctx(folder.path, clock, sink);
-  FillStore(folder.path, ctx);
-  EditRemindersScreen edit(ctx);
+  Program p;
+  FillStore(p.ctx);
+  EditRemindersScreen edit(p.ctx);
   for (auto _ : state) {
     edit.Refresh();
     benchmark::DoNotOptimize(edit.Listing().data());
@@ -76,12 +41,9 @@ void BM_EditListing10000(benchmark::State& state) {
 BENCHMARK(BM_EditListing10000)->Unit(benchmark::kMillisecond);
 
 void BM_MonthFill10000(benchmark::State& state) {
-  Folder folder;
-  FixedClock clock({2026, 11, 23, 10, 30, 0, 0});
-  QuietSink sink;
-  Context ctx(folder.path, clock, sink);
-  FillStore(folder.path, ctx);
-  RemindersByMonthScreen month(ctx);
+  Program p;
+  FillStore(p.ctx);
+  RemindersByMonthScreen month(p.ctx);
   month.ChooseMonth(12);
   for (auto _ : state) {
     month.Fill();
@@ -92,15 +54,13 @@ void BM_MonthFill10000(benchmark::State& state) {
 BENCHMARK(BM_MonthFill10000)->Unit(benchmark::kMillisecond);
 
 void BM_AddEveryDaySeries(benchmark::State& state) {
-  Folder folder;
-  FixedClock clock({2026, 11, 23, 10, 30, 0, 0});
-  QuietSink sink;
+  Program p;
   int inserted = 0;
   for (auto _ : state) {
     state.PauseTiming();
-    std::filesystem::remove(folder.path / "person.dat");
-    std::filesystem::remove(folder.path / "mercod.dat");
-    Context ctx(folder.path, clock, sink);
+    std::filesystem::remove(p.File("person.dat"));
+    std::filesystem::remove(p.File("mercod.dat"));
+    Context ctx(p.path(), p.clock, p.sink);
     AddRemindersScreen add(ctx);
     add.message = "Water the plants";
     add.ChooseType(3);

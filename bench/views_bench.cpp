@@ -3,15 +3,11 @@
 // afresh each time (the engine's cache of built years is cleared).
 #include <benchmark/benchmark.h>
 
-#include <filesystem>
-#include <optional>
-#include <string>
+#include <string_view>
 
+#include "bench_program.h"
 #include "calendars/chinese.h"
 #include "calendars/registry.h"
-#include "core/clock.h"
-#include "core/context.h"
-#include "core/message_sink.h"
 #include "views/month_calendars.h"
 #include "views/year_pages.h"
 
@@ -19,24 +15,8 @@ namespace {
 
 using mc::CalType;
 
-class SilentSink final : public mc::MessageSink {
- public:
-  void Show(std::string_view, std::string_view) override {}
-  bool Ask(std::string_view, std::string_view) override { return false; }
-  std::optional<std::string> Input(std::string_view, std::string_view, bool,
-                                   std::string_view) override {
-    return std::nullopt;
-  }
-};
-
-struct Program {
-  mc::FixedClock clock{mc::LocalDateTime{2026, 11, 23, 10, 30, 0, 0}};
-  SilentSink sink;
-  mc::Context ctx{std::filesystem::temp_directory_path(), clock, sink};
-};
-
 void YearPage(benchmark::State& state, CalType type, std::string_view caption, int firstYear) {
-  Program p;
+  mc::bench::StartedProgram p;
   int i = 0;
   for (auto _ : state) {
     if (type == CalType::Chi || type == CalType::Vie) mc::ClearLunarYearCache(mc::Calendars(p.ctx));
@@ -58,7 +38,7 @@ BENCHMARK_CAPTURE(YearPage, Pawukon, CalType::Paw, "", 2025)->Unit(benchmark::kM
 
 // One step of the month spin, each a month grid with its heading and boxes.
 void MonthStep(benchmark::State& state, std::string_view caption) {
-  Program p;
+  mc::bench::StartedProgram p;
   mc::MonthCalendarsScreen screen(p.ctx);
   screen.SelectCalendar(*mc::MonthCalendarsScreen::EntryIndex(caption));
   int i = 0;

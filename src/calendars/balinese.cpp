@@ -15,8 +15,6 @@
 namespace mc {
 
 using cycles::Cycle;
-using cycles::FloorDiv;
-using cycles::FloorMod;
 using cycles::Shown;
 using cycles::ShownAt;
 

@@ -11,21 +11,11 @@ namespace mc {
 
 namespace {
 
-// Gregorian year of the civil day holding a moment (Universal reckoning).
-int GregorianYearOfMoment(double moment) {
-  long long jd = static_cast<long long>(std::floor(moment + 0.5));
-  long long a = jd + 32044;
-  long long b = (4 * a + 3) / 146097;
-  long long c = a - 146097 * b / 4;
-  long long d = (4 * c + 3) / 1461;
-  long long e = c - 1461 * d / 4;
-  long long m = (5 * e + 2) / 153;
-  return static_cast<int>(100 * b + d - 4800 + m / 10);
-}
-
 // The local day of a moment, in the zone in force in the moment's year.
 JD LocalDay(CalType type, double moment) {
-  return LocalDayOfMoment(moment, CalendarTimeZone(type, GregorianYearOfMoment(moment)));
+  int year = 0, month = 0;
+  GregorianYearMonthOfMoment(moment, year, month);
+  return LocalDayOfMoment(moment, CalendarTimeZone(type, year));
 }
 
 JD NewMoonDay(CalType type, float k) {

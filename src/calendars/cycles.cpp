@@ -8,8 +8,6 @@
 namespace mc {
 
 using cycles::Cycle;
-using cycles::FloorDiv;
-using cycles::FloorMod;
 using cycles::Shown;
 
 namespace {

@@ -7,19 +7,10 @@
 
 #include "calendars/names.h"
 #include "calendars/registry.h"
+#include "core/int_math.h"
 
 namespace mc::cycles {
 
-// Remainder in 0..m-1 for any sign of a.
-constexpr int FloorMod(long long a, int m) {
-  long long r = a % m;
-  return static_cast<int>(r < 0 ? r + m : r);
-}
-// Quotient rounded down.
-constexpr long long FloorDiv(long long a, long long m) {
-  long long q = a / m;
-  return (a % m != 0 && (a < 0) != (m < 0)) ? q - 1 : q;
-}
 // a mod m with 0 read as m: 1..m.
 constexpr int Cycle(long long a, int m) {
   int r = FloorMod(a, m);

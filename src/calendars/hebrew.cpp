@@ -1,20 +1,11 @@
 #include "calendars/hebrew.h"
 
 #include "calendars/families.h"
+#include "core/int_math.h"
 
 namespace mc {
 
 namespace {
-
-constexpr int FloorDiv(int a, int b) {
-  return a / b - (a % b != 0 && (a < 0) != (b < 0));
-}
-constexpr int FloorMod(int a, int b) {
-  return a - FloorDiv(a, b) * b;
-}
-constexpr long long FloorDiv64(long long a, long long b) {
-  return a / b - (a % b != 0 && (a < 0) != (b < 0));
-}
 
 // Day 1 of the day count is JD 347998, Monday 1 Tishri of year 1.
 constexpr JD kHebrewEpoch = 347997;
@@ -124,10 +115,10 @@ HebrewNewYearDay HebrewNewYear(int year) {
   const int n = FloorMod(year - 1, 19);
   const long long months = 235LL * c + 12 * n + LeapMonthsInCycle(n);
   const long long parts = 5 * kPartsPerHour + 204 + months * kPartsPerMonth;
-  const long long wholeDays = FloorDiv64(parts, kPartsPerDay);
+  const long long wholeDays = FloorDiv(parts, kPartsPerDay);
   const long long rest = parts - wholeDays * kPartsPerDay;
   MoladSpan f;
-  f.weeks = static_cast<int>(FloorDiv64(wholeDays, 7));
+  f.weeks = static_cast<int>(FloorDiv(wholeDays, 7));
   f.days = static_cast<int>(wholeDays - 7LL * f.weeks);
   f.hours = static_cast<int>(rest / kPartsPerHour);
   f.parts = static_cast<int>(rest % kPartsPerHour);

@@ -486,9 +486,6 @@ int OldLunarRD(int month, bool leapMonth, int day, int year) {
 
 // --- Calendar codes ---
 
-namespace {
-
-// Months before the first of the year in the Ashadha and Kartika reckonings.
 int MonthShift(CalType type) {
   switch (type) {
     case CalType::HinLun1:
@@ -498,6 +495,19 @@ int MonthShift(CalType type) {
     default:
       return 0;
   }
+}
+
+namespace {
+
+// A month of a reckoning as the Chaitra reckoning numbers it; the months
+// after Phalguna belong to the next year there.
+int ChaitraMonth(CalType type, int month, int& year) {
+  int chaitra = month + MonthShift(type);
+  if (chaitra > 12) {
+    chaitra -= 12;
+    year += 1;
+  }
+  return chaitra;
 }
 
 JD LunarToJD(int day, int month, int year) {
@@ -518,11 +528,7 @@ CalDate JDToLunar(JD jd) {
 // The Ashadha and Kartika reckonings: the same months, the year beginning later.
 JD ShiftedToJD(CalType type, int day, int month, int year) {
   LeapValue m = SplitLeap(month);
-  int chaitra = m.value + MonthShift(type);
-  if (chaitra > 12) {
-    chaitra -= 12;
-    year += 1;
-  }
+  const int chaitra = ChaitraMonth(type, m.value, year);
   return LunarToJD(day, JoinLeap(chaitra, m.leap), year);
 }
 
@@ -616,12 +622,7 @@ int SolarMonthLength(int year, int month) {
 HinduMonthYear ConvertHinduMonth(CalType from, int month, int year, CalType to) {
   LeapValue m = SplitLeap(month);
   // To the Chaitra reckoning, then to the wanted one.
-  int value = m.value + MonthShift(from);
-  if (value > 12) {
-    value -= 12;
-    year += 1;
-  }
-  value -= MonthShift(to);
+  int value = ChaitraMonth(from, m.value, year) - MonthShift(to);
   if (value < 1) {
     value += 12;
     year -= 1;

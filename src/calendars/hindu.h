@@ -121,6 +121,10 @@ constexpr int JoinLeap(int v, bool leap) {
   return leap ? v + 100 : v;
 }
 
+// Months before the first of the year in the Ashadha (HinLun1, 3) and
+// Kartika (HinLun2, 7) reckonings; 0 in the Chaitra ones.
+int MonthShift(CalType type);
+
 // Renumbers a month between the Chaitra (HinLun, HinLun3), Ashadha (HinLun1)
 // and Kartika (HinLun2) reckonings; a leap month stays leap.
 struct HinduMonthYear {

@@ -4,19 +4,13 @@
 
 #include "calendars/families.h"
 #include "core/errors.h"
+#include "core/int_math.h"
 #include "core/safe_file.h"
 #include "core/text_util.h"
 
 namespace mc {
 
 namespace {
-
-constexpr int FloorDiv(int a, int b) {
-  return a / b - (a % b != 0 && (a < 0) != (b < 0));
-}
-constexpr int FloorMod(int a, int b) {
-  return a - FloorDiv(a, b) * b;
-}
 
 constexpr std::uint32_t LeapMask(std::initializer_list<int> years) {
   std::uint32_t mask = 0;

@@ -10,7 +10,6 @@
 namespace mc {
 
 using cycles::Cycle;
-using cycles::FloorDiv;
 using cycles::Shown;
 using cycles::ShownAt;
 

@@ -2,13 +2,11 @@
 
 #include <array>
 
-#include "calendars/cycles_detail.h"
 #include "calendars/gregorian.h"
 #include "calendars/names.h"
+#include "core/int_math.h"
 
 namespace mc {
-
-using cycles::FloorMod;
 
 std::string ToRoman(int n) {
   if (n < 1 || n > 3999) return "****";
@@ -131,7 +129,7 @@ int JulianEpact(int year) {
 }
 
 int GregorianEpact(int year) {
-  const long long c = cycles::FloorDiv(year, 100) + 1;
+  const long long c = FloorDiv(year, 100) + 1;
   long long e = 11LL * (GoldenNumber(year) - 1) - (3 * c) / 4 + (8 * c + 5) / 25 + 8;
   int r = FloorMod(e, 30);
   return r == 0 ? 30 : r;

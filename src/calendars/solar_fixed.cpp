@@ -3,19 +3,13 @@
 #include "calendars/families.h"
 #include "calendars/gregorian.h"
 #include "calendars/names.h"
+#include "core/int_math.h"
 
 namespace mc {
 
 namespace {
 
 using C = CalType;
-
-constexpr int FloorDiv(int a, int b) {
-  return a / b - (a % b != 0 && (a < 0) != (b < 0));
-}
-constexpr int FloorMod(int a, int b) {
-  return a - FloorDiv(a, b) * b;
-}
 
 // ---------------------------------------------------------------------------
 // Calendars of twelve thirty-day months and an epagomenal month 13.

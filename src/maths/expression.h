@@ -134,7 +134,7 @@ class ExpressionEngine {
   // Expression mode gives the value; definition mode stores the function and gives 0.
   std::optional<double> Evaluate(const ParsedLine& line, const std::vector<std::string>& postfix);
 
-  int Precedence(std::string_view token) const;
+  static int Precedence(std::string_view token);
   static bool IsReservedName(std::string_view name);
   bool IsUserFuncName(std::string_view name) const;
   bool IsUserVarName(std::string_view name) const;

@@ -147,33 +147,22 @@ bool ExpressionEngine::EvalPostfix(const std::vector<std::string>& postfix,
         continue;
       }
       double r = 0;
-      if (t == "++") {
-        r = x + y;
-      } else if (t == "--") {
-        r = x - y;
-      } else if (t == "*") {
-        r = x * y;
-      } else if (t == "/" || t == "\\" || t == "mod") {
+      if (t == "\\" || t == "mod") {
         if (y == 0) return Fail(Err("Denominator = 0 error using /, \\ or mod."));
-        if (t == "/") {
-          r = x / y;
-        } else {
-          if (!IsIntegral(x) || !IsIntegral(y))
-            return Fail(Err("Non-integer argument error using \\ or mod."));
-          // Both are converted to 32-bit integers first.
-          constexpr double lo = std::numeric_limits<std::int32_t>::min();
-          constexpr double hi = std::numeric_limits<std::int32_t>::max();
-          if (x < lo || x > hi || y < lo || y > hi) return RunTimeFail(kOverflow, kProcEvaluate);
-          const auto a = static_cast<std::int64_t>(x), b = static_cast<std::int64_t>(y);
-          const std::int64_t q = a / b;
-          if (q > hi) return RunTimeFail(kOverflow, kProcEvaluate);
-          r = static_cast<double>(t == "\\" ? q : a - q * b);
-        }
-      } else {  // ^
-        if (x < 0 && !IsIntegral(y))
-          return Fail(Err("With x^y, if x<0 then y must be an integer."));
-        if (x == 0 && y <= 0) return Fail(Err("With x^y, if x=0 then y must be positive."));
-        r = std::pow(x, y);
+        if (!IsIntegral(x) || !IsIntegral(y))
+          return Fail(Err("Non-integer argument error using \\ or mod."));
+        // Both are converted to 32-bit integers first.
+        constexpr double lo = std::numeric_limits<std::int32_t>::min();
+        constexpr double hi = std::numeric_limits<std::int32_t>::max();
+        if (x < lo || x > hi || y < lo || y > hi) return RunTimeFail(kOverflow, kProcEvaluate);
+        const auto a = static_cast<std::int64_t>(x), b = static_cast<std::int64_t>(y);
+        const std::int64_t q = a / b;
+        if (q > hi) return RunTimeFail(kOverflow, kProcEvaluate);
+        r = static_cast<double>(t == "\\" ? q : a - q * b);
+      } else {
+        const Arithmetic step = ApplyArithmetic(t, x, y);
+        if (step.error) return Fail(step.error);
+        r = step.value;
       }
       if (!finite(r)) return false;
       x = r;

@@ -2,7 +2,11 @@
 #pragma once
 
 #include <cmath>
+#include <string>
 #include <string_view>
+#include <vector>
+
+#include "core/context.h"
 
 namespace mc::expr {
 
@@ -59,5 +63,21 @@ inline bool MayBeNumber(std::string_view t, char sep) {
 inline char OtherSeparator(char sep) {
   return sep == ',' ? '.' : ',';
 }
+
+// Infix tokens to postfix by the shunting-yard rule, with the evaluator's
+// precedence of a token (0 for a name it does not know). Numbers go straight
+// through, a closing bracket of any kind pops back to its own opener, ";" is
+// passed over. False after a message when a stack is full, a bracket has no
+// partner or a name is unknown.
+bool TokensToPostfix(Context& ctx, const std::vector<std::string>& tokens,
+                     int (*precedence)(std::string_view), std::vector<std::string>& postfix);
+
+// x op y for the operators both evaluators share (++ -- * / ^): the value,
+// or the number of the message that refuses it (0 when none does).
+struct Arithmetic {
+  double value = 0;
+  int error = 0;
+};
+Arithmetic ApplyArithmetic(std::string_view op, double x, double y);
 
 }  // namespace mc::expr

@@ -98,7 +98,7 @@ void ExpressionEngine::ClearTables() {
   functions_.clear();
 }
 
-int ExpressionEngine::Precedence(std::string_view token) const {
+int ExpressionEngine::Precedence(std::string_view token) {
   if (token == "=") return 1;
   if (token == "+" || token == "++" || token == "-" || token == "--") return 2;
   if (token == "*" || token == "/" || token == "\\" || token == "mod") return 3;
@@ -259,53 +259,7 @@ std::string ExpressionEngine::Tidy(const std::vector<std::string>& tokens) const
 
 bool ExpressionEngine::InfixToPostfix(const std::vector<std::string>& tokens,
                                       std::vector<std::string>& postfix) {
-  const char sep = Sep();
-  postfix.clear();
-  std::vector<std::string> stack;
-  auto toPostfix = [&](std::string t) {
-    if (static_cast<int>(postfix.size()) >= kMaxSub)
-      return Fail(Err("Postfix array subscript exceeds MaxSub."));
-    postfix.push_back(std::move(t));
-    return true;
-  };
-  auto push = [&](const std::string& t) {
-    if (static_cast<int>(stack.size()) >= kMaxSub)
-      return Fail(Err("Stack array subscript exceeds MaxSub."));
-    stack.push_back(t);
-    return true;
-  };
-  for (const auto& t : tokens) {
-    if (MayBeNumber(t, sep) && IsStrictNumeric(t, sep)) {
-      if (!toPostfix(t)) return false;
-    } else if (IsOpener(t)) {
-      if (!push(t)) return false;
-    } else if (IsCloser(t)) {
-      const char opener = OpenerOf(t[0]);
-      while (true) {
-        if (stack.empty()) return Fail(Err("Missing or unmatched parentheses."));
-        std::string top = std::move(stack.back());
-        stack.pop_back();
-        if (top.size() == 1 && top[0] == opener) break;
-        if (!toPostfix(std::move(top))) return false;
-      }
-    } else if (t == ";") {
-      continue;
-    } else {
-      const int p = Precedence(t);
-      while (!stack.empty()) {
-        if (p > Precedence(stack.back())) break;
-        if (p == 0) return Fail(Err("Unknown function name detected."));
-        if (!toPostfix(std::move(stack.back()))) return false;
-        stack.pop_back();
-      }
-      if (!push(t)) return false;
-    }
-  }
-  while (!stack.empty()) {
-    if (!toPostfix(std::move(stack.back()))) return false;
-    stack.pop_back();
-  }
-  return true;
+  return TokensToPostfix(ctx_, tokens, &Precedence, postfix);
 }
 
 }  // namespace mc

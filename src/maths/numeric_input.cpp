@@ -101,51 +101,50 @@ int NumericPrecedence(std::string_view token) {
   return 0;
 }
 
-bool NumericToPostfix(Context& ctx, const std::vector<std::string>& tokens,
-                      std::vector<std::string>& postfix) {
+namespace expr {
+
+bool TokensToPostfix(Context& ctx, const std::vector<std::string>& tokens,
+                     int (*precedence)(std::string_view), std::vector<std::string>& postfix) {
   const char sep = ctx.settings.decimalSeparator;
+  auto fail = [&](int message) {
+    ShowError(ctx, message);
+    return false;
+  };
   postfix.clear();
   std::vector<std::string> stack;
   auto toPostfix = [&](std::string t) {
-    if (static_cast<int>(postfix.size()) >= kMaxSub) {
-      ShowError(ctx, Err("Postfix array subscript exceeds MaxSub."));
-      return false;
-    }
+    if (static_cast<int>(postfix.size()) >= kMaxSub)
+      return fail(Err("Postfix array subscript exceeds MaxSub."));
     postfix.push_back(std::move(t));
     return true;
   };
   auto push = [&](const std::string& t) {
-    if (static_cast<int>(stack.size()) >= kMaxSub) {
-      ShowError(ctx, Err("Stack array subscript exceeds MaxSub."));
-      return false;
-    }
+    if (static_cast<int>(stack.size()) >= kMaxSub)
+      return fail(Err("Stack array subscript exceeds MaxSub."));
     stack.push_back(t);
     return true;
   };
   for (const auto& t : tokens) {
     if (MayBeNumber(t, sep) && IsStrictNumeric(t, sep)) {
       if (!toPostfix(t)) return false;
-    } else if (t == "(") {
+    } else if (IsOpener(t)) {
       if (!push(t)) return false;
-    } else if (t == ")") {
+    } else if (IsCloser(t)) {
+      const char opener = OpenerOf(t[0]);
       while (true) {
-        if (stack.empty()) {
-          ShowError(ctx, Err("Missing or unmatched parentheses."));
-          return false;
-        }
+        if (stack.empty()) return fail(Err("Missing or unmatched parentheses."));
         std::string top = std::move(stack.back());
         stack.pop_back();
-        if (top == "(") break;
+        if (top.size() == 1 && top[0] == opener) break;
         if (!toPostfix(std::move(top))) return false;
       }
+    } else if (t == ";") {
+      continue;
     } else {
-      int p = NumericPrecedence(t);
+      const int p = precedence(t);
       while (!stack.empty()) {
-        if (p > NumericPrecedence(stack.back())) break;
-        if (p == 0) {
-          ShowError(ctx, Err("Unknown function name detected."));
-          return false;
-        }
+        if (p > precedence(stack.back())) break;
+        if (p == 0) return fail(Err("Unknown function name detected."));
         if (!toPostfix(std::move(stack.back()))) return false;
         stack.pop_back();
       }
@@ -157,6 +156,26 @@ bool NumericToPostfix(Context& ctx, const std::vector<std::string>& tokens,
     stack.pop_back();
   }
   return true;
+}
+
+Arithmetic ApplyArithmetic(std::string_view op, double x, double y) {
+  if (op == "++") return {x + y};
+  if (op == "--") return {x - y};
+  if (op == "*") return {x * y};
+  if (op == "/") {
+    if (y == 0) return {0, Err("Denominator = 0 error using /, \\ or mod.")};
+    return {x / y};
+  }
+  if (x < 0 && !IsIntegral(y)) return {0, Err("With x^y, if x<0 then y must be an integer.")};
+  if (x == 0 && y <= 0) return {0, Err("With x^y, if x=0 then y must be positive.")};
+  return {std::pow(x, y)};
+}
+
+}  // namespace expr
+
+bool NumericToPostfix(Context& ctx, const std::vector<std::string>& tokens,
+                      std::vector<std::string>& postfix) {
+  return TokensToPostfix(ctx, tokens, &NumericPrecedence, postfix);
 }
 
 std::optional<double> EvaluateNumericPostfix(Context& ctx,
@@ -180,38 +199,18 @@ std::optional<double> EvaluateNumericPostfix(Context& ctx,
       stack.back() = -stack.back();
     } else if (t == "++" || t == "--" || t == "*" || t == "/" || t == "^") {
       if (stack.size() < 2) return invalid();
-      double y = stack.back();
+      const double y = stack.back();
       stack.pop_back();
-      double x = stack.back();
-      double r = 0;
-      if (t == "++") {
-        r = x + y;
-      } else if (t == "--") {
-        r = x - y;
-      } else if (t == "*") {
-        r = x * y;
-      } else if (t == "/") {
-        if (y == 0) {
-          ShowError(ctx, Err("Denominator = 0 error using /, \\ or mod."));
-          return std::nullopt;
-        }
-        r = x / y;
-      } else {
-        if (x < 0 && !IsIntegral(y)) {
-          ShowError(ctx, Err("With x^y, if x<0 then y must be an integer."));
-          return std::nullopt;
-        }
-        if (x == 0 && y <= 0) {
-          ShowError(ctx, Err("With x^y, if x=0 then y must be positive."));
-          return std::nullopt;
-        }
-        r = std::pow(x, y);
+      const Arithmetic r = ApplyArithmetic(t, stack.back(), y);
+      if (r.error) {
+        ShowError(ctx, r.error);
+        return std::nullopt;
       }
-      if (!std::isfinite(r)) {
+      if (!std::isfinite(r.value)) {
         ShowRunTimeError(ctx, kOverflow, kProcEvalNumericInput);
         return std::nullopt;
       }
-      stack.back() = r;
+      stack.back() = r.value;
     }
     // Any other token is passed over.
   }

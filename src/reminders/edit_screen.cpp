@@ -161,10 +161,7 @@ bool EditRemindersScreen::Delete() {
   if (!store.Open()) return false;
   if (store.NoRecord()) {
     ShowError(ctx_, Err("All personal reminders have already been deleted."));
-    if (std::filesystem::exists(ctx_.FilePath("person.dat"))) {
-      store.RemovePersonFile();
-      store.Commit();
-    }
+    store.DropEmptyPersonFile();
     return false;
   }
   if (!store.Check()) return false;

@@ -53,10 +53,7 @@ ReminderReport BuildReminderReport(Context& ctx) {
   ReminderStore store(ctx);
   if (!store.Open()) return rep;
   if (store.NoRecord()) {
-    if (std::filesystem::exists(ctx.FilePath("person.dat"))) {
-      store.RemovePersonFile();
-      store.Commit();
-    }
+    store.DropEmptyPersonFile();
     rep.text = kNoReminders;
     return rep;
   }

@@ -368,6 +368,12 @@ void ReminderStore::RemovePersonFile() {
   dirty_ = true;
 }
 
+void ReminderStore::DropEmptyPersonFile() {
+  if (!std::filesystem::exists(ctx_.FilePath(kPerson))) return;
+  RemovePersonFile();
+  Commit();
+}
+
 bool ReminderStore::Commit() {
   std::vector<FileChange> changes;
   if (removeStore_) {
@@ -415,10 +421,7 @@ bool CheckReminderStore(Context& ctx) {
   ReminderStore store(ctx);
   if (!store.Open()) return false;
   if (store.NoRecord()) {
-    if (std::filesystem::exists(ctx.FilePath(kPerson))) {
-      store.RemovePersonFile();
-      store.Commit();
-    }
+    store.DropEmptyPersonFile();
     return true;
   }
   return store.Check();
@@ -429,10 +432,7 @@ bool CompactReminders(Context& ctx) {
   ReminderStore store(ctx);
   if (!store.Open()) return false;
   if (store.NoRecord()) {
-    if (std::filesystem::exists(ctx.FilePath(kPerson))) {
-      store.RemovePersonFile();
-      store.Commit();
-    }
+    store.DropEmptyPersonFile();
     ctx.sink().Show(kInformation, "No reminders have yet been defined.");
     return false;
   }

@@ -116,6 +116,8 @@ class ReminderStore {
   void RemoveStoreFiles();
   // Only person.dat goes (it has no record).
   void RemovePersonFile();
+  // With no record, a person.dat left behind goes at once (a commit of its own).
+  void DropEmptyPersonFile();
 
   bool Dirty() const { return dirty_ || !purgedLines_.empty() || peyr_ || removePeyr_; }
   bool InsertedAny() const { return insertedAny_; }

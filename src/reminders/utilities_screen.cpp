@@ -170,10 +170,7 @@ bool ExportReminders(Context& ctx, const FieldFormat& format, const std::filesys
   ReminderStore store(ctx);
   if (!store.Open()) return false;
   if (store.NoRecord()) {
-    if (std::filesystem::exists(ctx.FilePath("person.dat"))) {
-      store.RemovePersonFile();
-      store.Commit();
-    }
+    store.DropEmptyPersonFile();
     ShowError(ctx, Err("No reminders to export."));
     return false;
   }

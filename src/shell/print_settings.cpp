@@ -93,48 +93,43 @@ PrintSettings LoadPrintSettings(Context& ctx) {
 }
 
 void StorePrintSettings(Context& ctx, const PrintSettings& p) {
-  const std::pair<const char*, std::string> keys[] = {
-      {"Title Font Name", p.title.name},
-      {"Title Font Size", std::to_string(p.title.size)},
-      {"Title Bold", Bool(p.title.bold)},
-      {"Title Italic", Bool(p.title.italic)},
-      {"Title Underline", Bool(p.title.underline)},
-      {"Body Fixed Width Font Name", p.bodyFixedFontName},
-      {"Body Proportional Width Font Name", p.bodyPropFontName},
-      {"Body Font Size", std::to_string(p.body.size)},
-      {"Body Bold", Bool(p.body.bold)},
-      {"Body Italic", Bool(p.body.italic)},
-      {"Body Underline", Bool(p.body.underline)},
-      {"Body Line Spacing", p.lineSpacing},
-      {"Header Font Name", p.header.name},
-      {"Header Font Size", std::to_string(p.header.size)},
-      {"Header Bold", Bool(p.header.bold)},
-      {"Header Italic", Bool(p.header.italic)},
-      {"Header Underline", Bool(p.header.underline)},
-      {"Footer Font Name", p.footer.name},
-      {"Footer Font Size", std::to_string(p.footer.size)},
-      {"Footer Bold", Bool(p.footer.bold)},
-      {"Footer Italic", Bool(p.footer.italic)},
-      {"Footer Underline", Bool(p.footer.underline)},
-      {"Printer Name", p.printerName},
-      {"Print Quality", p.printQuality},
-      {"Paper Size", p.paperSize},
-      {"Paper Orientation", p.orientation},
-      {"Paper Bin", p.paperBin},
-      {"Number of Copies", std::to_string(p.copies)},
-      {"Last Header", p.lastHeader},
-      {"Last Footer", p.lastFooter},
-      {"Margin Unit", p.marginUnit},
-      {"Margin Left", Margin(p.marginLeft)},
-      {"Margin Right", Margin(p.marginRight)},
-      {"Margin Top", Margin(p.marginTop)},
-      {"Margin Bottom", Margin(p.marginBottom)},
-      {"Print Page Numbers", Bool(p.pageNumbers)},
-      {"Print Date and Time", Bool(p.dateAndTime)},
-      {"Draw Border Around Document", Bool(p.border)},
-      {"Draw Line Under Header", Bool(p.lineUnderHeader)},
-      {"Draw Line Above Footer", Bool(p.lineAboveFooter)},
+  std::vector<std::pair<std::string, std::string>> keys;
+  auto add = [&](std::string key, std::string value) {
+    keys.emplace_back(std::move(key), std::move(value));
   };
+  // The keys of a font in the order ReadFont reads them.
+  auto addFont = [&](const std::string& prefix, const PrintFont& f, bool hasName) {
+    if (hasName) add(prefix + " Font Name", f.name);
+    add(prefix + " Font Size", std::to_string(f.size));
+    add(prefix + " Bold", Bool(f.bold));
+    add(prefix + " Italic", Bool(f.italic));
+    add(prefix + " Underline", Bool(f.underline));
+  };
+  addFont("Title", p.title, true);
+  add("Body Fixed Width Font Name", p.bodyFixedFontName);
+  add("Body Proportional Width Font Name", p.bodyPropFontName);
+  addFont("Body", p.body, false);
+  add("Body Line Spacing", p.lineSpacing);
+  addFont("Header", p.header, true);
+  addFont("Footer", p.footer, true);
+  add("Printer Name", p.printerName);
+  add("Print Quality", p.printQuality);
+  add("Paper Size", p.paperSize);
+  add("Paper Orientation", p.orientation);
+  add("Paper Bin", p.paperBin);
+  add("Number of Copies", std::to_string(p.copies));
+  add("Last Header", p.lastHeader);
+  add("Last Footer", p.lastFooter);
+  add("Margin Unit", p.marginUnit);
+  add("Margin Left", Margin(p.marginLeft));
+  add("Margin Right", Margin(p.marginRight));
+  add("Margin Top", Margin(p.marginTop));
+  add("Margin Bottom", Margin(p.marginBottom));
+  add("Print Page Numbers", Bool(p.pageNumbers));
+  add("Print Date and Time", Bool(p.dateAndTime));
+  add("Draw Border Around Document", Bool(p.border));
+  add("Draw Line Under Header", Bool(p.lineUnderHeader));
+  add("Draw Line Above Footer", Bool(p.lineAboveFooter));
   for (const auto& [key, value] : keys)
     if (ReadIniFile(ctx, kForm, key) != value) UpdateIniFile(ctx, kForm, key, value);
 }

@@ -18,19 +18,6 @@ double CosDeg(double degrees) {
   return std::cos(degrees * kDegToRad);
 }
 
-// Gregorian year and month of the civil day holding a moment.
-void YearMonthOfMoment(double moment, int& year, int& month) {
-  long long jd = static_cast<long long>(std::floor(moment + 0.5));
-  long long a = jd + 32044;
-  long long b = (4 * a + 3) / 146097;
-  long long c = a - 146097 * b / 4;
-  long long d = (4 * c + 3) / 1461;
-  long long e = c - 1461 * d / 4;
-  long long m = (5 * e + 2) / 153;
-  month = static_cast<int>(m + 3 - 12 * (m / 10));
-  year = static_cast<int>(100 * b + d - 4800 + m / 10);
-}
-
 // The periodic terms of one phase: coefficient, power of E, and multiples of
 // M, M' and F; the argument of the one term in Omega is marked by omega.
 struct PhaseTerm {
@@ -102,6 +89,18 @@ double SumTerms(const PhaseTerm (&terms)[N], double e, double m, double mPrime, 
 
 }  // namespace
 
+void GregorianYearMonthOfMoment(double moment, int& year, int& month) {
+  long long jd = static_cast<long long>(std::floor(moment + 0.5));
+  long long a = jd + 32044;
+  long long b = (4 * a + 3) / 146097;
+  long long c = a - 146097 * b / 4;
+  long long d = (4 * c + 3) / 1461;
+  long long e = c - 1461 * d / 4;
+  long long m = (5 * e + 2) / 153;
+  month = static_cast<int>(m + 3 - 12 * (m / 10));
+  year = static_cast<int>(100 * b + d - 4800 + m / 10);
+}
+
 double MoonPhaseMoment(float k) {
   const double kk = k;
   const double fraction = kk - std::floor(kk);
@@ -142,7 +141,7 @@ double MoonPhaseMoment(float k) {
 
 bool DeltaT(double moment, double& seconds) {
   int year = 0, month = 0;
-  YearMonthOfMoment(moment, year, month);
+  GregorianYearMonthOfMoment(moment, year, month);
   if (year < 1583 || year > 3000) return false;
   const double y = year + (month - 0.5) / 12;
   double t = 0;

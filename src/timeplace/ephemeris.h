@@ -38,6 +38,10 @@ double EquationOfTime(double moment);
 // minute that rounds to 60 carried into the hour, or kept at 59 in the last hour.
 std::string ClockText(double hours);
 
+// Gregorian year and month of the civil day holding a moment (a Julian Day
+// with fraction, Universal reckoning).
+void GregorianYearMonthOfMoment(double moment, int& year, int& month);
+
 // The moment of a phase of the Moon as a Julian Ephemeris Day. k counts
 // lunations from the new moon of 6 January 2000; its fraction picks the phase:
 // .0 new moon, .25 first quarter, .5 full moon, .75 last quarter (a fraction

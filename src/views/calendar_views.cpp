@@ -67,9 +67,7 @@ std::string Shown(const Context& ctx, std::string_view name) {
 }
 
 int ChaitraMonthNumber(CalType type, int month) {
-  int m = month > 100 ? month - 100 : month;
-  if (type == CalType::HinLun1) m += 3;
-  if (type == CalType::HinLun2) m += 7;
+  const int m = hindu::SplitLeap(month).value + hindu::MonthShift(type);
   return m > 12 ? m - 12 : m;
 }
 

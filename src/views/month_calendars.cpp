@@ -271,17 +271,16 @@ bool MonthCalendarsScreen::EnterYear(std::string_view text) {
     }
     year = static_cast<int>(*v);
   }
-  if (ChangeOverRefused(month_, year) || !YearInRange(year)) return false;
-  int row = 1;
-  int month = MonthInYear(month_, year_, year, row);
-  Show(month, year, row, false);
-  return true;
+  return ChangeYear(year);
 }
 
 bool MonthCalendarsScreen::StepYear(int delta) {
   if (!HasCalendar()) return false;
   focusMain_ = false;
-  const int year = year_ + delta;
+  return ChangeYear(year_ + delta);
+}
+
+bool MonthCalendarsScreen::ChangeYear(int year) {
   if (ChangeOverRefused(month_, year) || !YearInRange(year)) return false;
   int row = 1;
   int month = MonthInYear(month_, year_, year, row);

@@ -100,6 +100,8 @@ class MonthCalendarsScreen {
   void Show(int month, int year, int row, bool forceList);
   // The month of the year on show kept when the year changes.
   int MonthInYear(int month, int oldYear, int newYear, int& row);
+  // Another year, with the month on show kept, after its checks.
+  bool ChangeYear(int year);
   void FillMonthList();
   void Render();
   const LunarYearTable& LunarYear(int year);

@@ -8,12 +8,10 @@
 #include "calendars/date_text.h"
 #include "calendars/gregorian.h"
 #include "core/text_util.h"
-#include "support/test_program.h"
+#include "support/program_test.h"
 
 namespace mc {
 namespace {
-
-using test::TestProgram;
 
 // Rows of a comma-separated table under tests/data, headings (">") left out.
 std::vector<std::vector<std::string>> ReadTable(const std::string& name) {
@@ -31,12 +29,7 @@ std::vector<std::vector<std::string>> ReadTable(const std::string& name) {
   return rows;
 }
 
-class CycleCalendars : public ::testing::Test {
- protected:
-  void SetUp() override { p.Start(); }
-  CalendarEngine& engine() { return Calendars(p.ctx); }
-  TestProgram p;
-};
+class CycleCalendars : public test::ProgramTest {};
 
 // The sample dates published with the standard algorithms: long count both
 // ways, haab, tzolkin, xihuitl, tonalpohualli and the ten Pawukon weeks.

@@ -4,18 +4,13 @@
 
 #include "calendars/date_text.h"
 #include "calendars/gregorian.h"
-#include "support/test_program.h"
+#include "support/program_test.h"
 #include "sweep.h"
 
 namespace mc::test {
 namespace {
 
-class Hebrew : public ::testing::Test {
- protected:
-  void SetUp() override { p.Start(); }
-  CalendarEngine& engine() { return Calendars(p.ctx); }
-  TestProgram p;
-};
+class Hebrew : public test::ProgramTest {};
 
 TEST_F(Hebrew, EveryDateOfTheSupportedYearsRoundTrips) {
   EXPECT_GT(SweepYears(engine(), CalType::Heb, 3768, 13759, 29, 30), 0);

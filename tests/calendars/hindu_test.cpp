@@ -11,22 +11,15 @@
 
 #include "calendars/date_text.h"
 #include "calendars/registry.h"
-#include "support/test_program.h"
+#include "support/program_test.h"
 
 namespace mc::hindu {
 namespace {
 
-using test::TestProgram;
-
 // JD below which a lunisolar date is "no such day".
 constexpr JD kNoDay = kRDToJD + 1;
 
-class HinduCalendars : public ::testing::Test {
- protected:
-  void SetUp() override { p.Start(); }
-  CalendarEngine& engine() { return Calendars(p.ctx); }
-  TestProgram p;
-};
+class HinduCalendars : public test::ProgramTest {};
 
 // --- Astronomy ---
 

@@ -6,7 +6,7 @@
 #include "core/safe_file.h"
 #include "core/text_util.h"
 #include "shell/startup.h"
-#include "support/test_program.h"
+#include "support/program_test.h"
 #include "sweep.h"
 
 namespace mc::test {
@@ -14,15 +14,12 @@ namespace {
 
 using C = CalType;
 
-class Islamic : public ::testing::Test {
+class Islamic : public test::ProgramTest {
  protected:
-  void SetUp() override { p.Start(); }
-  CalendarEngine& engine() { return Calendars(p.ctx); }
   void Use(int scheme, const char* epoch) {
     p.ctx.settings.islamicLeapScheme = scheme;
     p.ctx.settings.islamicEpochDay = epoch;
   }
-  TestProgram p;
 };
 
 TEST_F(Islamic, EveryDateRoundTripsUnderEachSchemeAndEpoch) {

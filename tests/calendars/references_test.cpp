@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "calendars/solar_fixed.h"
-#include "support/test_program.h"
+#include "support/program_test.h"
 #include "sweep.h"
 
 namespace mc::test {
@@ -11,9 +11,8 @@ namespace {
 
 using C = CalType;
 
-class References : public ::testing::Test {
+class References : public test::ProgramTest {
  protected:
-  void SetUp() override { p.Start(); }
   // Every row agrees, both ways.
   void ExpectAll(C type, const std::string& table) {
     auto rows = ReadRefTable(table);
@@ -25,7 +24,6 @@ class References : public ::testing::Test {
     RecordProperty(table,
                    std::to_string(rows.size() - bad.size()) + "/" + std::to_string(rows.size()));
   }
-  TestProgram p;
 };
 
 TEST_F(References, HebrewAgreesWithICU) {

@@ -3,23 +3,20 @@
 #include <gtest/gtest.h>
 
 #include "calendars/gregorian.h"
-#include "support/test_program.h"
+#include "support/program_test.h"
 
 namespace mc {
 namespace {
 
-using test::TestProgram;
-
-class Regnal : public ::testing::Test {
+// The clock stands at 23 November 2026.
+class Regnal : public test::ProgramTest {
  protected:
-  void SetUp() override { p.Start(); }
   std::vector<std::string> Greg(int d, int m, int y) {
     return RegnalLines(p.ctx, GregorianToJD(d, m, y), RegnalStyle::Gregorian);
   }
   std::vector<std::string> Jul(int d, int m, int y) {
     return RegnalLines(p.ctx, JulianToJD(d, m, y), RegnalStyle::Julian);
   }
-  TestProgram p;  // the clock stands at 23 November 2026
 };
 
 using Lines = std::vector<std::string>;

@@ -4,7 +4,7 @@
 
 #include "calendars/gregorian.h"
 #include "calendars/names.h"
-#include "support/test_program.h"
+#include "support/program_test.h"
 #include "sweep.h"
 
 namespace mc::test {
@@ -12,12 +12,9 @@ namespace {
 
 using C = CalType;
 
-class SolarFixed : public ::testing::Test {
+class SolarFixed : public test::ProgramTest {
  protected:
-  void SetUp() override { p.Start(); }
-  CalendarEngine& engine() { return Calendars(p.ctx); }
   JD ToJD(C type, int d, int m, int y) { return engine().DateToJD(type, d, m, y); }
-  TestProgram p;
 };
 
 // Every day of every supported year, both ways, with month lengths in range.

@@ -4,28 +4,14 @@
 
 #include <sstream>
 
-#include "support/test_program.h"
+#include "support/cli_run.h"
 
 namespace mc {
 namespace {
 
-struct CliRun {
-  int status;
-  std::string out, err;
-};
+using test::CliRun;
 
-class CliTest : public ::testing::Test {
- protected:
-  CliRun Cli(std::vector<std::string> args) {
-    std::vector<std::string> full = {"--folder",         p.folder.path().string(), "--now",
-                                     "2026-11-23T10:30", "--date-order",           "d/m/y"};
-    full.insert(full.end(), args.begin(), args.end());
-    std::ostringstream out, err;
-    int status = RunCli(full, out, err);
-    return {status, out.str(), err.str()};
-  }
-  test::TestProgram p;
-};
+class CliTest : public test::CliFixture {};
 
 TEST_F(CliTest, ConvertsBothWays) {
   EXPECT_EQ(Cli({"to-jd", "Greg", "15/10/1582"}).out, "2299161\n");

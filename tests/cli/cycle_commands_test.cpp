@@ -1,30 +1,13 @@
 #include <gtest/gtest.h>
 
-#include <sstream>
-
-#include "cli/cli_app.h"
-#include "support/test_program.h"
+#include "support/cli_run.h"
 
 namespace mc {
 namespace {
 
-struct CycleCliRun {
-  int status;
-  std::string out, err;
-};
+using test::CliRun;
 
-class CycleCli : public ::testing::Test {
- protected:
-  CycleCliRun Cli(std::vector<std::string> args) {
-    std::vector<std::string> full = {"--folder",         p.folder.path().string(), "--now",
-                                     "2026-11-23T10:30", "--date-order",           "d/m/y"};
-    full.insert(full.end(), args.begin(), args.end());
-    std::ostringstream out, err;
-    int status = RunCli(full, out, err);
-    return {status, out.str(), err.str()};
-  }
-  test::TestProgram p;
-};
+class CycleCli : public test::CliFixture {};
 
 TEST_F(CycleCli, LongCountBothWaysAndDayCycles) {
   EXPECT_EQ(Cli({"to-jd", "May", "13.0.0.0.0"}).out, "2456283\n");
@@ -33,7 +16,7 @@ TEST_F(CycleCli, LongCountBothWaysAndDayCycles) {
   EXPECT_EQ(Cli({"from-jd", "Tzo", "2456283"}).out, "4/20\n");
   EXPECT_EQ(Cli({"from-jd", "Ton", "2456283"}).out, "4/20\n");
   EXPECT_EQ(Cli({"from-jd", "Xih", "2456283", "2456284"}).out, "2456283\t17/4\n2456284\t18/4\n");
-  CycleCliRun r = Cli({"to-jd", "May", "6.19.19.17.19"});
+  CliRun r = Cli({"to-jd", "May", "6.19.19.17.19"});
   EXPECT_EQ(r.status, 1);
   EXPECT_EQ(r.err, "Error Detected!: Baktun value is not in the range 7 to 33.\n");
   r = Cli({"to-jd", "May", "33.19.0.0.0"});
@@ -42,7 +25,7 @@ TEST_F(CycleCli, LongCountBothWaysAndDayCycles) {
 }
 
 TEST_F(CycleCli, BalineseSecondDayIsRefused) {
-  CycleCliRun r = Cli({"to-jd", "Bal", "24/7/1921"});
+  CliRun r = Cli({"to-jd", "Bal", "24/7/1921"});
   EXPECT_EQ(r.status, 1);
   EXPECT_EQ(r.err, "Error Detected!: Second day of a Balinese Saka pengunalatri.\n");
   EXPECT_EQ(Cli({"to-jd", "Bal", "2/10/1942"}).out, "2458934\n");

@@ -3,27 +3,14 @@
 #include <sstream>
 
 #include "cli/cli_app.h"
-#include "support/test_program.h"
+#include "support/cli_run.h"
 
 namespace mc {
 namespace {
 
-struct CliRun {
-  int status;
-  std::string out, err;
-};
+using test::CliRun;
 
-class ViewCommandsTest : public ::testing::Test {
- protected:
-  CliRun Cli(std::vector<std::string> args, const std::string& now = "2026-11-23T10:30") {
-    std::vector<std::string> full = {"--folder", p.folder.path().string(), "--now", now};
-    full.insert(full.end(), args.begin(), args.end());
-    std::ostringstream out, err;
-    int status = RunCli(full, out, err);
-    return {status, out.str(), err.str()};
-  }
-  test::TestProgram p;
-};
+class ViewCommandsTest : public test::CliFixture {};
 
 TEST_F(ViewCommandsTest, MonthCalendarPrintsTheGrid) {
   const std::string january2000 =

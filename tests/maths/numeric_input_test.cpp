@@ -5,14 +5,13 @@
 #include "core/ini_file.h"
 #include "maths/expression.h"
 #include "maths/random.h"
-#include "support/test_program.h"
+#include "support/program_test.h"
 
 namespace mc::test {
 namespace {
 
-class NumericInput : public ::testing::Test {
+class NumericInput : public test::ProgramTest {
  protected:
-  void SetUp() override { p.Start(); }
   void UseDecimalComma() {
     p.ctx.settings.decimalSeparator = ',';
     p.ctx.settings.usesDecimalPoint = false;
@@ -31,7 +30,6 @@ class NumericInput : public ::testing::Test {
     std::snprintf(buf, sizeof buf, "%.15g", v);
     return buf;
   }
-  TestProgram p;
 };
 
 TEST_F(NumericInput, NumbersAndSimpleExpressions) {

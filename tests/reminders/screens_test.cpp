@@ -1,8 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <sstream>
-
-#include "cli/cli_app.h"
 #include "core/ini_file.h"
 #include "core/text_util.h"
 #include "reminder_test_util.h"
@@ -11,6 +8,7 @@
 #include "reminders/month_screen.h"
 #include "reminders/report.h"
 #include "reminders/utilities_screen.h"
+#include "support/cli_run.h"
 
 namespace mc::test {
 namespace {
@@ -439,14 +437,12 @@ TEST(ReminderUtilitiesTest, SwitchesAndCommands) {
   EXPECT_EQ(p.sink.Last(), "Reminders file successfully compacted.");
 }
 
+// codex-cli with plain line ends: what it wrote to both streams.
 std::string Cli(TestProgram& p, std::vector<std::string> args, int* status = nullptr) {
-  std::vector<std::string> full = {"--folder", p.folder.path().string(), "--now",
-                                   "2026-11-23T10:30", "--lf"};
-  full.insert(full.end(), args.begin(), args.end());
-  std::ostringstream out, err;
-  int rc = RunCli(full, out, err);
-  if (status) *status = rc;
-  return out.str() + err.str();
+  args.insert(args.begin(), "--lf");
+  const CliRun r = RunCliIn(p, args);
+  if (status) *status = r.status;
+  return r.out + r.err;
 }
 
 TEST(ReminderCommandsTest, AddListAndExportFromTheCommandLine) {

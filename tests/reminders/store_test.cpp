@@ -5,7 +5,9 @@
 #include "core/ini_file.h"
 #include "core/text_util.h"
 #include "reminder_test_util.h"
+#include "reminders/report.h"
 #include "reminders/store_files.h"
+#include "reminders/utilities_screen.h"
 
 namespace mc::test {
 namespace {
@@ -163,6 +165,27 @@ TEST(ReminderStore, DamagedOrMissingFilesGiveTheMessageNotACrash) {
   p.Write("person.dat", "");
   EXPECT_TRUE(CheckReminderStore(p.ctx));
   EXPECT_FALSE(std::filesystem::exists(p.File("person.dat")));
+}
+
+// An empty person.dat holds no reminders: whichever command finds it
+// deletes it, and says what it says of an empty store.
+TEST(ReminderStore, AnEmptyPersonFileGoesWhicheverCommandFindsIt) {
+  TestProgram p;
+  p.Start();
+  p.Write("person.dat", "");
+  EXPECT_EQ(BuildReminderReport(p.ctx).text, "No personal reminders currently defined.");
+  EXPECT_FALSE(std::filesystem::exists(p.File("person.dat")));
+
+  p.Write("person.dat", "");
+  EXPECT_FALSE(CompactReminders(p.ctx));
+  EXPECT_EQ(p.sink.Last(), "No reminders have yet been defined.");
+  EXPECT_FALSE(std::filesystem::exists(p.File("person.dat")));
+
+  p.Write("person.dat", "");
+  EXPECT_FALSE(ExportReminders(p.ctx, {"day month year message", "Comma ,", ""}));
+  EXPECT_EQ(p.sink.Last(), "No reminders to export.");
+  EXPECT_FALSE(std::filesystem::exists(p.File("person.dat")));
+  EXPECT_FALSE(std::filesystem::exists(p.File("myrems.txt")));
 }
 
 TEST(ReminderStore, CompactionRenumbersInListOrder) {

@@ -16,7 +16,7 @@
 #include <QToolButton>
 
 #include "core/safe_file.h"
-#include "support/test_program.h"
+#include "desktop_fixture.h"
 #include "ui/main_window.h"
 #include "ui/month_calendars_form.h"
 #include "ui/output_box.h"
@@ -31,28 +31,13 @@ QString Lines(const std::string& text) {
   return q;
 }
 
-class CalendarFormsTest : public ::testing::Test {
+class CalendarFormsTest : public DesktopFixture {
  protected:
   CalendarFormsTest() { qputenv("CODEX_SILENT", "1"); }
   void Open() {
-    p.Start();
-    desktop = std::make_unique<Desktop>(p.ctx);
-    window = std::make_unique<MainWindow>(*desktop);
-    window->Load();
-    window->Timer()->stop();
+    DesktopFixture::Open();
     window->show();
     p.sink.Clear();
-  }
-  template <typename Form>
-  Form* Menu(const char* action) {
-    window->ActionNamed(action)->trigger();
-    return qobject_cast<Form*>(desktop->ActiveScreen());
-  }
-  template <typename W>
-  W* Child(QWidget* form, const char* name) {
-    W* w = form->findChild<W*>(name);
-    EXPECT_TRUE(w) << name;
-    return w;
   }
   // A choice from a list, as a click on its entry makes it.
   static void Choose(QComboBox* list, const QString& entry) {
@@ -61,10 +46,6 @@ class CalendarFormsTest : public ::testing::Test {
     list->setCurrentIndex(i);
     emit list->activated(i);
   }
-
-  test::TestProgram p;
-  std::unique_ptr<Desktop> desktop;
-  std::unique_ptr<MainWindow> window;
 };
 
 TEST_F(CalendarFormsTest, MonthCalendarsFollowsItsModel) {

@@ -17,22 +17,18 @@
 #include <QTimer>
 
 #include "core/ini_file.h"
-#include "support/test_program.h"
+#include "desktop_fixture.h"
 #include "ui/main_window.h"
 #include "ui/output_box.h"
 
 namespace mc::ui {
 namespace {
 
-class ExpressionFormTest : public ::testing::Test {
+class ExpressionFormTest : public DesktopFixture {
  protected:
   void Open() {
-    p.Start();
+    DesktopFixture::Open();
     p.ctx.settings.showTipPending = false;
-    desktop = std::make_unique<Desktop>(p.ctx);
-    window = std::make_unique<MainWindow>(*desktop);
-    window->Load();
-    window->Timer()->stop();
     ASSERT_TRUE(window->ActionNamed("muExpression")->isEnabled());
     window->ActionNamed("muExpression")->trigger();
     form = qobject_cast<ExpressionForm*>(desktop->Loaded(27));
@@ -60,9 +56,6 @@ class ExpressionFormTest : public ::testing::Test {
   void Click(const char* name) { Child<QPushButton>(name)->click(); }
   std::string Ini(const char* key) { return ReadIniFile(p.ctx, 27, key); }
 
-  test::TestProgram p;
-  std::unique_ptr<Desktop> desktop;
-  std::unique_ptr<MainWindow> window;
   ExpressionForm* form = nullptr;
   OutputBox* box = nullptr;
 };

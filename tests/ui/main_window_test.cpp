@@ -13,29 +13,19 @@
 #include <QTimer>
 
 #include "core/ini_file.h"
+#include "desktop_fixture.h"
 #include "reminders/store.h"
-#include "support/test_program.h"
 #include "ui/output_box.h"
 #include "ui/sound.h"
 
 namespace mc::ui {
 namespace {
 
-class MainWindowTest : public ::testing::Test {
+// Ten seconds before midnight, so that a few ticks bring a new day.
+class MainWindowTest : public DesktopFixture {
  protected:
-  MainWindowTest() : p(true, {2026, 11, 23, 23, 59, 50, 0}) {}
-  void Open() {
-    p.Start();
-    desktop = std::make_unique<Desktop>(p.ctx);
-    window = std::make_unique<MainWindow>(*desktop);
-    window->Load();
-    window->Timer()->stop();  // the tests tick by hand
-  }
+  MainWindowTest() : DesktopFixture({2026, 11, 23, 23, 59, 50, 0}) {}
   QString Box(const char* name) { return window->findChild<QLineEdit*>(name)->text(); }
-
-  test::TestProgram p;
-  std::unique_ptr<Desktop> desktop;
-  std::unique_ptr<MainWindow> window;
 };
 
 TEST_F(MainWindowTest, TicksAcrossMidnight) {

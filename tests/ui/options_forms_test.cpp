@@ -19,7 +19,7 @@
 #include <QTimer>
 
 #include "core/ini_file.h"
-#include "support/test_program.h"
+#include "desktop_fixture.h"
 #include "ui/main_window.h"
 #include "ui/output_box.h"
 #include "ui/password_form.h"
@@ -30,26 +30,9 @@ namespace mc::ui {
 namespace {
 
 // A started program with its main window, as the desktop has it.
-class DesktopTest : public ::testing::Test {
+class DesktopTest : public DesktopFixture {
  protected:
-  void Open() {
-    p.Start();
-    desktop = std::make_unique<Desktop>(p.ctx);
-    window = std::make_unique<MainWindow>(*desktop);
-    window->Load();
-    window->Timer()->stop();
-  }
-  template <class T>
-  T* Child(QWidget* form, const char* name) {
-    T* w = form->findChild<T*>(name);
-    EXPECT_NE(w, nullptr) << name;
-    return w;
-  }
   std::string Ini(int form, const char* key) { return ReadIniFile(p.ctx, form, key); }
-
-  test::TestProgram p;
-  std::unique_ptr<Desktop> desktop;
-  std::unique_ptr<MainWindow> window;
 };
 
 TEST_F(DesktopTest, OptionsMenuOpensTheBuiltScreens) {

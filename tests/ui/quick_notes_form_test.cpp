@@ -14,21 +14,17 @@
 #include <QTimer>
 
 #include "core/ini_file.h"
-#include "support/test_program.h"
+#include "desktop_fixture.h"
 #include "ui/main_window.h"
 
 namespace mc::ui {
 namespace {
 
-class QuickNotesFormTest : public ::testing::Test {
+class QuickNotesFormTest : public DesktopFixture {
  protected:
   void Open() {
-    p.Start();
+    DesktopFixture::Open();
     p.ctx.settings.showTipPending = false;
-    desktop = std::make_unique<Desktop>(p.ctx);
-    window = std::make_unique<MainWindow>(*desktop);
-    window->Load();
-    window->Timer()->stop();
     window->ActionNamed("muQuickNotes")->trigger();
     notes = qobject_cast<QuickNotesForm*>(desktop->Loaded(25));
     ASSERT_NE(notes, nullptr);
@@ -37,9 +33,6 @@ class QuickNotesFormTest : public ::testing::Test {
     return notes->findChild<QPlainTextEdit*>(QString("txtSheet%1").arg(n));
   }
 
-  test::TestProgram p;
-  std::unique_ptr<Desktop> desktop;
-  std::unique_ptr<MainWindow> window;
   QuickNotesForm* notes = nullptr;
 };
 

@@ -25,9 +25,9 @@
 #include <QToolButton>
 
 #include "core/ini_file.h"
+#include "desktop_fixture.h"
 #include "reminders/store.h"
 #include "reminders/store_files.h"
-#include "support/test_program.h"
 #include "ui/add_reminders_form.h"
 #include "ui/edit_reminders_form.h"
 #include "ui/main_window.h"
@@ -39,28 +39,13 @@
 namespace mc::ui {
 namespace {
 
-class ReminderFormsTest : public ::testing::Test {
+// The program's clock: Monday 23 November 2026, 10:30.
+class ReminderFormsTest : public DesktopFixture {
  protected:
   ReminderFormsTest() { qputenv("CODEX_SILENT", "1"); }
   void Open() {
-    p.Start();
-    desktop = std::make_unique<Desktop>(p.ctx);
-    window = std::make_unique<MainWindow>(*desktop);
-    window->Load();
-    window->Timer()->stop();
+    DesktopFixture::Open();
     window->show();
-  }
-  // Opens a screen from its menu entry.
-  template <typename Form>
-  Form* Menu(const char* action) {
-    window->ActionNamed(action)->trigger();
-    return qobject_cast<Form*>(desktop->ActiveScreen());
-  }
-  template <typename W>
-  W* Child(QWidget* form, const char* name) {
-    W* w = form->findChild<W*>(name);
-    EXPECT_NE(w, nullptr) << name;
-    return w;
   }
   // Near the left edge: check boxes and option buttons take clicks on their
   // indicator and caption only, and a layout may have made them wide.
@@ -74,10 +59,6 @@ class ReminderFormsTest : public ::testing::Test {
     QTest::keyClicks(e, text);
   }
   std::string MainList() { return window->Output()->Report(); }
-
-  test::TestProgram p;  // Monday 23 November 2026, 10:30
-  std::unique_ptr<Desktop> desktop;
-  std::unique_ptr<MainWindow> window;
 };
 
 TEST_F(ReminderFormsTest, AddAReminderAndSeeItOnTheMainList) {

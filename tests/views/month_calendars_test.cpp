@@ -6,15 +6,13 @@
 
 #include "calendars/registry.h"
 #include "core/ini_file.h"
-#include "support/test_program.h"
+#include "support/program_test.h"
 
 namespace mc {
 namespace {
 
-class MonthCalendars : public ::testing::Test {
+class MonthCalendars : public test::ProgramTest {
  protected:
-  void SetUp() override { p.Start(); }
-
   // Chooses a calendar with a week starting on Saturday (0), Sunday (1) or Monday (2).
   void Open(std::string_view caption, int startDay = 1) {
     p.ctx.settings.startDay = startDay;
@@ -38,7 +36,6 @@ class MonthCalendars : public ::testing::Test {
            std::to_string(screen.Year());
   }
 
-  test::TestProgram p;
   MonthCalendarsScreen screen{p.ctx};
 };
 

@@ -8,15 +8,13 @@
 #include "calendars/registry.h"
 #include "core/ini_file.h"
 #include "core/text_util.h"
-#include "support/test_program.h"
+#include "support/program_test.h"
 
 namespace mc {
 namespace {
 
-class YearCalendars : public ::testing::Test {
+class YearCalendars : public test::ProgramTest {
  protected:
-  void SetUp() override { p.Start(); }
-
   // The page of a year, weeks from Sunday unless told.
   std::string Page(std::string_view caption, const std::string& year, int startDay = 1) {
     p.ctx.settings.startDay = startDay;
@@ -42,7 +40,6 @@ class YearCalendars : public ::testing::Test {
     return std::find(lines.begin(), lines.end(), line) != lines.end();
   }
 
-  test::TestProgram p;
   YearCalendarsScreen screen{p.ctx};
 };
 
